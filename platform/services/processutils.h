@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace miscutils {
+
+/** Process checks on this machine's process table. Any thread. */
+class CCommUtils
+{
+public:
+    /** True when a process whose program name (last part of argv[0], or the kernel's name) equals `name` runs. */
+    static bool IsProcessExist(const QString &name);
+};
+
+} // namespace miscutils

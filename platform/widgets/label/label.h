@@ -1,0 +1,44 @@
+#pragma once
+
+#include "widgets/widget/widget.h"
+
+/**
+ * A text on a CWidget's background. Text that does not fit ends in an ellipsis, or is wrapped when asked;
+ * line feeds in the text start a new line.
+ */
+class CLabel : public CWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CLabel(QWidget *parent = nullptr);
+    explicit CLabel(const QString &text, QWidget *parent = nullptr);
+
+    void setText(const QString &text);
+    QString text() const { return m_text; }
+    void setTextColor(const QColor &color);
+    void setTextColor(int colorCode);
+    /** Pixel size; 0 takes the application font's. */
+    void setTextSize(int pixels);
+    void setBold(bool bold);
+    void setAlignment(Qt::Alignment alignment);
+    void setWordWrap(bool wrap);
+
+    QSize sizeHint() const override;
+    /** Height of the text at a width, in pixels. */
+    int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QFont textFont() const;
+
+    QString m_text;
+    QColor m_color;
+    int m_colorCode;
+    int m_textSize = 0;
+    bool m_bold = false;
+    bool m_wrap = false;
+    Qt::Alignment m_alignment = Qt::AlignLeft | Qt::AlignVCenter;
+};

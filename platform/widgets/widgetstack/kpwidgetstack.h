@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+/**
+ * The stack of sub-pages that pages lay over themselves. Pushing shows and raises a page over the one below;
+ * popping hides it and shows the one below again. A page that is deleted leaves the stack.
+ *
+ * One per process. The stack does not own its pages.
+ */
+class KpWidgetStack : public QObject
+{
+    Q_OBJECT
+
+public:
+    static KpWidgetStack *instance();
+
+    void pushPage(QWidget *page);
+    /** Hides the top page. @return false when the stack was empty */
+    bool popPage();
+    void popAllPages();
+    QWidget *currentPage() const;
+    int count() const;
+
+private:
+    using QObject::QObject;
+    void dropDeleted();
+
+    QList<QPointer<QWidget>> m_pages;
+};
