@@ -1,0 +1,58 @@
+#include "commutils.h"
+#include "mainapplication.h"
+#include "mainwindow.h"
+#include "widgets/widgetstyle/widgetstyle.h"
+
+#include <QTextCodec>
+#include <QTranslator>
+
+#include "startup.h"
+
+#include <csignal>
+#include <memory>
+
+int main(int argc, char** argv)
+{
+    // Nothing here draws with OpenGL, and loading it would cost 60 ms and 32 MB at every start.
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+
+    std::signal(SIGCHLD, child_handler);
+    setup_unix_signal_handlers();
+
+    CMainApplication::setOrganizationName(QStringLiteral("zentra"));
+    CMainApplication::setApplicationName(QStringLiteral("mainframe"));
+    auto application = std::make_unique<CMainApplication>(argc, argv);
+
+    initConfiguration(); // the shell starts with whatever is there
+
+    // UTF-8 is the only choice left for translations and C strings.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+
+    CWidgetStyle::initialize(CUICommUtils::getWidgetStyleFileName());
+
+    const LanguageCode language = CUICommUtils::getLanguageCode();
+    CUICommUtils::printSystemLangPrompt(language);
+    auto font = std::make_unique<QFont>(CUICommUtils::getLangFont(language));
+    CMainApplication::setFont(*font);
+
+    auto translator = std::make_unique<QTranslator>();
+    translator->load(CUICommUtils::getTranslateFileName(language));
+    CMainApplication::installTranslator(translator.get());
+
+    auto window = std::make_unique<CMainWindow>(nullptr);
+    window->markAppIndex(0);
+    application->setMainWindowInstance(window.get());
+    window->changeLanguageMiniGui(language);
+    window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    window->move(window->x(), window->y() + 60); // asked for once; the window manager decides
+    window->show();
+
+    const int result = CMainApplication::exec();
+
+    application->setMainWindowInstance(nullptr);
+    window.reset();
+    translator.reset();
+    font.reset();
+    application.reset();
+    return result;
+}

@@ -1,0 +1,196 @@
+#include "mainwindow.h"
+
+#include "advancemenu.h"
+#include "defaultsettings.h"
+#include "fakedesktop.h"
+#include "homepage.h"
+#include "pluginman.h"
+#include "settingmoremenu.h"
+#include "sigtransfer.h"
+#include "startutilwindow.h"
+#include "switchappwindow.h"
+#include "systemsettingsmenu.h"
+#include "taskmanager.h"
+#include "topbar.h"
+#include "widgets/messagebox/messagebox.h"
+#include "widgets/toolbox/toolbox.h"
+#include "widgets/widgetstyle/widgetstyle.h"
+
+#include <QPainter>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <QTranslator>
+
+#include <unistd.h>
+#include <utility>
+
+namespace {
+
+constexpr int BOTTOM_STRIP = 20; // the screen's height that the window leaves to a bottom bar
+constexpr int CENTRE_SHIFT = 4; // dialogs stand a little to the right of the exact centre
+constexpr int FAILURE_CHECK_PERIOD = 5000; // ms
+constexpr int APP_LAUNCH_PERIOD = 500; // ms
+
+void moveToCentre(QWidget* widget, int region)
+{
+    if (!widget)
+        return;
+    const QRect area = CWidgetStyle::getScreenRegion(region);
+    const QPoint centre(area.x() + area.width() / 2, area.y() + area.height() / 2);
+    widget->move(centre.x() - widget->width() / 2 + CENTRE_SHIFT, centre.y() - widget->height() / 2);
+}
+
+} // namespace
+
+CMainWindow::CMainWindow(QWidget* parent)
+    : CWidget(parent)
+{
+    initialize();
+}
+
+CMainWindow::~CMainWindow()
+{
+    // The bars and menus that listen to the relay go first, then the relay.
+    qDeleteAll(findChildren<CWidget*>(QString(), Qt::FindDirectChildrenOnly));
+    delete g_pSigTransfer;
+    snTerminate.reset();
+    for (int& fd : signalFd)
+        ::close(std::exchange(fd, 0));
+}
+
+void CMainWindow::initialize()
+{
+    signalInit();
+    loadSysSettings();
+
+    m_pTrans = new QTranslator(this);
+    m_pMenuStack = std::make_unique<CMenuStack>();
+
+    g_pSigTransfer = new CSigTransfer;
+    connect(g_pSigTransfer, &CSigTransfer::currentUtilChanged, this, &CMainWindow::changeCurrentUtil);
+    connect(this, &CMainWindow::lockStateChanged, g_pSigTransfer, &CSigTransfer::lockStateChanged);
+
+    const QRect screen = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionScreen);
+    resize(screen.width(), screen.height() - BOTTOM_STRIP);
+    setBackgroundColor(CWidgetStyle::ColorScreen);
+
+    m_pTopBar = new CTopBar(this);
+    m_pTopBar->move(0, 0);
+    connect(m_pTopBar, &CTopBar::homeTriggered, this, &CMainWindow::triggerHome);
+    connect(m_pTopBar, &CTopBar::closeTriggered, this, &CMainWindow::triggerClose);
+    connect(m_pTopBar, &CTopBar::wifiWiziTriggered, this, [this] { itemChanged(UTILITY_ID_WIFI_WIZARD); });
+
+    setupToolBox();
+    createPages();
+    popAllMenuEntry(); // the caption and buttons of the home page
+
+    m_pTaskMan = new CTaskManager(this);
+    qRegisterMetaType<AppInfo>("AppInfo");
+    connect(m_pTaskMan, &CTaskManager::utilStarted, this, &CMainWindow::utilReady, Qt::QueuedConnection);
+
+    m_pPluginMan = new CPluginManager(this);
+    createTimers();
+    QTimer::singleShot(0, this, &CMainWindow::postLaunch);
+    setBackgroundColor(CWidgetStyle::ColorScreen);
+}
+
+void CMainWindow::loadSysSettings()
+{
+    CSystemSettings* settings = CSystemSettings::globalSettings();
+    for (const DefaultSetting& setting : defaultSettings())
+        settings->setAttribute(setting.attribute, setting.value, false);
+    settings->loadDefAttribute();
+}
+
+void CMainWindow::createTimers()
+{
+    m_pSystemTimer = new QTimer(this);
+    m_pPowerOffTimer = new QTimer(this);
+    m_pFailureServTimer = new QTimer(this);
+    m_pFailureServTimer->setInterval(FAILURE_CHECK_PERIOD);
+    m_pAppLaunchTimer = new QTimer(this);
+    m_pAppLaunchTimer->setInterval(APP_LAUNCH_PERIOD);
+    m_pSwitchDelayTimer = new QTimer(this);
+    m_pSwitchDelayTimer->setSingleShot(true);
+    m_pBatBacklightTimer = new QTimer(this);
+    m_pBatBacklightTimer->setSingleShot(true);
+    m_pACBacklightTimer = new QTimer(this);
+    m_pACBacklightTimer->setSingleShot(true);
+    connect(this, &CMainWindow::windowVisibleChanged, this, &CMainWindow::setWindowVisible);
+}
+
+template <typename Page> Page* CMainWindow::addInnerPage(UtilityID id, Page* page)
+{
+    page->hide();
+    moveToWorkingArea(page);
+    m_innerPages.insert(id, page);
+    return page;
+}
+
+void CMainWindow::createPages()
+{
+    m_pFakeDesk = new CFakeDesktop(this);
+    m_pFakeDesk->hide();
+    m_pStartUtilWnd = new CStartUtilWindow(this);
+    m_pStartUtilWnd->hide();
+    moveToWorkingArea(m_pStartUtilWnd);
+
+    // The built-in pages, one line each.
+    m_pAdvMenu = addInnerPage(UTILITY_ID_ADVTOOL, new CAdvanceMenu(this));
+    m_pSettingMenu = addInnerPage(UTILITY_ID_SETTINGS, new CSystemSettingsMenu(this));
+    m_pSettingMoreMenu = addInnerPage(UTILITY_ID_SETTING_MORE, new CSettingMoreMenu(this));
+
+    m_pSwitchAppWnd = new CSwitchAppWindow(this);
+    m_pSwitchAppWnd->hide();
+    m_pSwitchAppWnd->move(CWidgetStyle::getScreenRegion(CWidgetStyle::RegionPageFrame).topLeft());
+
+    m_pHomePage = addInnerPage(UTILITY_ID_BEGIN, new CHomePage(this));
+    m_pHomePage->show();
+    m_pInnerUtilpage = m_pHomePage;
+}
+
+QPoint CMainWindow::screenCenter()
+{
+    const QRect screen = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionScreen);
+    return {screen.x() + screen.width() / 2, screen.y() + screen.height() / 2};
+}
+
+void CMainWindow::moveToScreenCenter(QWidget* widget)
+{
+    moveToCentre(widget, CWidgetStyle::RegionPageFrame);
+}
+
+void CMainWindow::moveToWorkingAreaCenter(QWidget* widget)
+{
+    moveToCentre(widget, CWidgetStyle::RegionWorkingArea);
+}
+
+void CMainWindow::moveToWorkingArea(CWidget* widget)
+{
+    const QRect area = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionWorkingArea);
+    widget->setBorderWidth(0, 1, 1, 1);
+    widget->resize(area.size());
+    widget->move(area.topLeft());
+}
+
+int CMainWindow::execBox(CMessageBox& box)
+{
+    box.adjustSize();
+    moveToWorkingAreaCenter(&box);
+    return box.exec();
+}
+
+void CMainWindow::paintEvent(QPaintEvent* event)
+{
+    CWidget::paintEvent(event);
+    if (m_winVisibleReason != TestAppForeground) {
+        QPainter painter(this);
+        painter.setPen(Qt::white);
+        const QRect frame = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionPageFrame);
+        painter.drawRect(frame.x(), frame.y(), frame.width() - 1, frame.height() - 1);
+    }
+    if (!m_isPainted) {
+        m_isPainted = true;
+        emit firstPainted();
+    }
+}

@@ -1,0 +1,220 @@
+#pragma once
+
+#include "devicestatus.h"
+#include "languagecode.h"
+#include "menustack.h"
+#include "utilityid.h"
+#include "widgets/widget/widget.h"
+
+#include <QHash>
+#include <QPointer>
+
+#include <memory>
+
+class CAdvanceMenu;
+class CFakeDesktop;
+class CHomePage;
+class CMessageBox;
+class CPluginManager;
+class CSettingMoreMenu;
+class CStartUtilWindow;
+class CSwitchAppWindow;
+class CSystemSettingsMenu;
+class CTaskManager;
+class CToolBox;
+class CTopBar;
+class QSocketNotifier;
+class QTimer;
+class QTranslator;
+
+/**
+ * The shell's one window: top bar, tool box, page area and the overlays of a switch. It shows exactly one
+ * current utility (the home page, a built-in page or a plug-in's page), and steps aside while a test
+ * application is in front.
+ *
+ * It owns every page, bar and manager it makes, for the life of the process. Interface thread only, but for
+ * signalHandler(). The class is spread over several files by concern: mainwindow.cpp (construction and
+ * wiring), _settings, _menu, _switching, _visibility, _launch, _language, _signals.
+ *
+ * A new built-in page is one line in createPages(); the utilities without one are logged as not available.
+ */
+class CMainWindow : public CWidget
+{
+    Q_OBJECT
+
+public:
+    enum VisibleReason { TestAppForeground = 0, TestAppBackground = 1, OtherReason = 2 };
+    enum TestAppAction { ActionLoad = 0, ActionRelease = 1, ActionNone = 2 };
+    enum NonInteractiveRegionType {
+        FullScreen = 0,
+        ExcludeBottomBar = 1,
+        CutomizeRegion = 2,
+        RegionNone = 3
+    };
+
+    explicit CMainWindow(QWidget* parent);
+    ~CMainWindow() override;
+
+    /** Writes the index of the application this window stands for into its X property "_TAVOPROP_APPINDEX".
+     */
+    void markAppIndex(int index);
+    /** Tells the platform's language switching service about a language; a failure prints an error line. */
+    void changeLanguageMiniGui(LanguageCode code);
+
+    /** Handler of SIGHUP and SIGTERM: wakes the event loop, which ends the process in order.
+     * Async-signal-safe. */
+    static void signalHandler(int sig);
+
+    /** The utility now shown; UTILITY_ID_BEGIN is the home page. */
+    UtilityID currentUtil() const { return m_prevUtilID; }
+
+    /** Centre of the screen, and placement of dialogs on the page frame and on the working area. */
+    static QPoint screenCenter();
+    void moveToScreenCenter(QWidget* widget);
+    void moveToWorkingAreaCenter(QWidget* widget);
+    /** Frames a page and makes it fill the working area. */
+    void moveToWorkingArea(CWidget* widget);
+
+    /**
+     * Drops touches inside a region of the screen, in this process and, for the whole screen, by a pointer
+     * grab.
+     * @param region the region for CutomizeRegion, in screen pixels; else ignored
+     */
+    void setNonInteractiveRegion(NonInteractiveRegionType type, const QRect& region);
+    /** False while a test application is in front. */
+    bool isNeedInteractive() const { return m_winVisibleReason != TestAppForeground; }
+
+public slots:
+    /** Shows utility `id`: a built-in page at once, a plug-in after its start window had 100 ms to appear. */
+    void changeCurrentUtil(int id);
+    /** Hides the shell for a test application in front (false) and brings it back (true). */
+    void setWindowVisible(bool visible);
+    void changeLanguage(LanguageCode code);
+    void translate() override;
+    void triggerHome();
+    void triggerClose();
+
+signals:
+    /** Raised by the test application switching: false when one takes the screen, true when it gives it back.
+     */
+    void windowVisibleChanged(bool visible);
+    void lockStateChanged(bool locked);
+    /** The first complete frame is on the screen. */
+    void firstPainted();
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private slots:
+    void itemChanged(int id);
+    void utilReady(int id);
+    void pluginRequestToClose();
+    void procDelayUnlock();
+    void postLaunch();
+    void handleSignal();
+
+private:
+    // Construction
+    void initialize();
+    void signalInit();
+    void loadSysSettings();
+    void setupToolBox();
+    void createPages();
+    void createTimers();
+    template <typename Page> Page* addInnerPage(UtilityID id, Page* page);
+
+    // Menu path and top bar
+    void updateNavigateInfo(UtilityID id);
+    void pushMenuEntry(int id, int level);
+    void popMenuEntry();
+    void popAllMenuEntry();
+    void updateTopBarButtonState();
+    void setTopBarButtonStatus(bool home, bool close);
+
+    // Switching
+    bool isUtilAvailable(UtilityID id) const;
+    bool confirmCalibration();
+    void showInnerPage(CWidget* page);
+    void showHomePage();
+    void leaveUtilPage(UtilityID id);
+    void leavePlugin();
+    void startPlugin(UtilityID id);
+    void connectPluginSignals(QObject* object);
+    void showPluginError(const QString& text);
+    void showCurrentUtilPage();
+    void hideCurrentUtilPage();
+    void updateCurrentUtilPage();
+
+    // Visibility
+    void setWindowHidden(VisibleReason reason);
+    void setWindowShown(VisibleReason reason);
+    void setBarsVisible(bool visible);
+    void blockAppAreaUpdate();
+    void recoverAppAreaUpdate();
+    void grabFakeDesktop();
+    void setFakeDesktopVisible(bool visible);
+
+    // Late start-up and shutdown
+    void waitForFirstPaint();
+    void autoLoadPlugins();
+    void saveSysSettings();
+
+    // Checks
+    static bool isFSCaptureRunning();
+    static bool isWSARunning();
+
+    // Focus
+    void clearFocusWidget();
+    void setWidgetFocus(QObject* widget, bool on);
+
+    /** Runs a box of the shell's own look, centred on the working area. @return its answer */
+    int execBox(CMessageBox& box);
+
+    static int signalFd[2]; // 0: written by the signal handler, 1: read by the event loop
+    std::unique_ptr<QSocketNotifier> snTerminate;
+    bool m_isTerminating = false;
+
+    int m_appIndex = -1;
+    UtilityID m_CallerID = UTILITY_ID_BEGIN;
+    UtilityID m_prevUtilID = UTILITY_ID_BEGIN;
+    UtilityID m_curUtilID = UTILITY_ID_BEGIN;
+    LanguageCode m_prevLangCode = LANGUAGE_BEGIN;
+    VisibleReason m_winVisibleReason = TestAppBackground;
+    TestAppAction m_testAppAction = ActionNone;
+    NonInteractiveRegionType m_nonInteractiveType = RegionNone;
+    QRect m_nonInteractiveRegion;
+    bool bIsUILocked = false;
+    bool bIsAutoTSCal = false;
+    bool m_isPainted = false;
+
+    StorageStatus m_storeStat;
+    WIFIStatus m_wifiStat;
+
+    QTranslator* m_pTrans = nullptr;
+    std::unique_ptr<CMenuStack> m_pMenuStack;
+    QPointer<QWidget> m_pPrevFocusWidget;
+
+    CTopBar* m_pTopBar = nullptr;
+    CToolBox* m_pToolBox = nullptr;
+    QHash<int, CWidget*> m_innerPages; // built-in pages by UtilityID, the home page included
+    CWidget* m_pInnerUtilpage = nullptr; // the one now shown, null while a plug-in is
+    CHomePage* m_pHomePage = nullptr;
+    CAdvanceMenu* m_pAdvMenu = nullptr;
+    CSystemSettingsMenu* m_pSettingMenu = nullptr;
+    CSettingMoreMenu* m_pSettingMoreMenu = nullptr;
+    CStartUtilWindow* m_pStartUtilWnd = nullptr;
+    CSwitchAppWindow* m_pSwitchAppWnd = nullptr;
+    CFakeDesktop* m_pFakeDesk = nullptr;
+
+    CTaskManager* m_pTaskMan = nullptr;
+    CPluginManager* m_pPluginMan = nullptr;
+
+    QTimer* m_pSystemTimer = nullptr;
+    QTimer* m_pPowerOffTimer = nullptr;
+    QTimer* m_pFailureServTimer = nullptr;
+    QTimer* m_pAppLaunchTimer = nullptr;
+    QTimer* m_pSwitchDelayTimer = nullptr;
+    QTimer* m_pBatBacklightTimer = nullptr;
+    QTimer* m_pACBacklightTimer = nullptr;
+};

@@ -1,0 +1,91 @@
+// Stepping aside for a test application in front, and coming back.
+
+#include "mainwindow.h"
+
+#include "fakedesktop.h"
+#include "topbar.h"
+#include "widgets/toolbox/toolbox.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QThread>
+
+namespace {
+
+// Long enough for the X server and the test application to settle; the event loop stands still meanwhile.
+constexpr unsigned long SETTLE_AFTER_HIDING = 500; // ms
+constexpr unsigned long SETTLE_BEFORE_SHOWING = 200; // ms
+
+constexpr int AREA_WIDTH = 800; // of the screen above the bottom bar
+constexpr int AREA_HEIGHT = 460;
+
+} // namespace
+
+void CMainWindow::setWindowVisible(bool visible)
+{
+    if (visible) {
+        QThread::msleep(SETTLE_BEFORE_SHOWING);
+        recoverAppAreaUpdate();
+        setWindowShown(TestAppBackground);
+        showCurrentUtilPage();
+        repaint();
+    } else {
+        hideCurrentUtilPage();
+        setWindowHidden(TestAppForeground);
+        blockAppAreaUpdate();
+        QThread::msleep(SETTLE_AFTER_HIDING);
+    }
+}
+
+void CMainWindow::setBarsVisible(bool visible)
+{
+    m_pTopBar->setVisible(visible);
+    m_pToolBox->setVisible(visible);
+}
+
+void CMainWindow::setWindowHidden(VisibleReason reason)
+{
+    m_winVisibleReason = reason;
+    if (reason == TestAppForeground)
+        setBarsVisible(false);
+    else if (reason == OtherReason)
+        hide();
+}
+
+void CMainWindow::setWindowShown(VisibleReason reason)
+{
+    m_winVisibleReason = reason;
+    if (reason == TestAppBackground)
+        setBarsVisible(true);
+    else if (reason == OtherReason)
+        show();
+}
+
+void CMainWindow::blockAppAreaUpdate()
+{
+    const QRect window = rect();
+    setMask(QRegion(QPolygon({QPoint(0, AREA_HEIGHT), QPoint(window.left(), window.bottom() + 2),
+        QPoint(window.right() + 2, window.bottom() + 2), QPoint(AREA_WIDTH + 2, AREA_HEIGHT)})));
+}
+
+void CMainWindow::recoverAppAreaUpdate()
+{
+    const QRect window = rect();
+    setMask(QRegion(QPolygon({window.topLeft(), QPoint(window.right() + 2, window.top()),
+        QPoint(window.right() + 2, window.bottom() + 2), QPoint(window.left(), window.bottom() + 2)})));
+}
+
+void CMainWindow::grabFakeDesktop()
+{
+    const QPixmap screen = QGuiApplication::primaryScreen()->grabWindow(0);
+    m_pFakeDesk->setBackgroundImage(screen.copy(0, 0, AREA_WIDTH, AREA_HEIGHT));
+}
+
+void CMainWindow::setFakeDesktopVisible(bool visible)
+{
+    m_pFakeDesk->setVisible(visible);
+    if (visible)
+        m_pFakeDesk->raise();
+    else
+        m_pFakeDesk->lower();
+}

@@ -1,0 +1,153 @@
+#include "commutils.h"
+#include "mainwindow.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+
+#include "startup.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int RECOVER_ATTEMPTS = 5;
+constexpr unsigned long RECOVER_PAUSE = 100; // ms
+constexpr size_t FRAMEBUFFER_BYTES = 768000; // 800 by 480 pixels of 16 bits
+
+constexpr const char RESULT_DIR[] = "/home/root/.resultmanager";
+
+bool ensureDirectory(const QString& path)
+{
+    // mkpath() succeeds for a directory that is there, and fails for a file of that name.
+    if (QDir().mkpath(path))
+        return true;
+    qWarning("[zentra mainframe]: Can not initialize configuration.");
+    return false;
+}
+
+/** Moves a file that could not be read aside, so that what it holds is not lost. */
+void keepRejected(const QString& path)
+{
+    const QString rejected = path + QStringLiteral(".rejected");
+    if (QFileInfo(path).size() > 0 && QFile::exists(path)) {
+        QFile::remove(rejected);
+        QFile::rename(path, rejected);
+    }
+}
+
+/** Replaces a configuration file by its built-in default. */
+void restoreDefault(const QString& path, const QString& name)
+{
+    QFile::remove(path);
+    QFile::copy(QStringLiteral(":/conf/%1").arg(name), path);
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+}
+
+bool recoverFile(const QString& path, const QString& name)
+{
+    for (int attempt = 0; attempt < RECOVER_ATTEMPTS; ++attempt) {
+        if (CUICommUtils::checkConfFile(path))
+            return true;
+        if (attempt == 0)
+            keepRejected(path);
+        restoreDefault(path, name);
+        QThread::msleep(RECOVER_PAUSE);
+    }
+    // The last copy is not looked at any more: a file that only it would have repaired counts as lost.
+    qWarning().noquote() << QStringLiteral("[%1]: Can not recover configuration").arg(path);
+    return false;
+}
+
+} // namespace
+
+bool initConfiguration()
+{
+    const QString confDir = CUICommUtils::getConfPath();
+    const QString resultDir = QString::fromLatin1(RESULT_DIR);
+    if (!ensureDirectory(confDir) || !ensureDirectory(resultDir))
+        return false;
+
+    const struct
+    {
+        QString name;
+        QString directory;
+    } files[] = {
+        {QStringLiteral("zentra-settings.xml"), confDir},
+        {QStringLiteral("widget-style.xml"), confDir},
+        {QStringLiteral("result-config.xml"), resultDir},
+        {QStringLiteral("result-type-config.xml"), resultDir},
+    };
+    for (const auto& file : files) {
+        if (!recoverFile(file.directory + QLatin1Char('/') + file.name, file.name))
+            return false;
+    }
+    return true;
+}
+
+void setup_unix_signal_handlers()
+{
+    sigset_t held;
+    sigemptyset(&held);
+    for (const int sig : {SIGHUP, SIGTERM}) {
+        struct sigaction action = {};
+        action.sa_handler = CMainWindow::signalHandler;
+        sigemptyset(&action.sa_mask);
+        action.sa_flags = SA_RESTART;
+        sigaction(sig, &action, nullptr);
+        sigaddset(&held, sig);
+    }
+    // There is no event loop to wake yet: the signals wait until CMainWindow::signalInit() lets them through.
+    pthread_sigmask(SIG_BLOCK, &held, nullptr);
+}
+
+void child_handler(int sig)
+{
+    Q_UNUSED(sig)
+    const int savedErrno = errno;
+    while (::waitpid(-1, nullptr, 0) > 0) { }
+    errno = savedErrno;
+}
+
+void clearScreen(int value)
+{
+    const int fd = ::open("/dev/fb0", O_RDWR | O_CLOEXEC);
+    if (fd) {
+        void* memory = ::mmap(nullptr, FRAMEBUFFER_BYTES, PROT_READ | PROT_WRITE, MAP_SHARED, fd, 0);
+        if (memory != MAP_FAILED) {
+            std::memset(memory, value, FRAMEBUFFER_BYTES);
+            ::munmap(memory, FRAMEBUFFER_BYTES);
+        }
+        ::close(fd);
+    }
+}
+
+void exit_sig_handler(int sig)
+{
+    Q_UNUSED(sig)
+    clearScreen(0);
+    std::exit(0);
+}
+
+void poweroff_sig_handler(int sig)
+{
+    std::printf("poweroff_sig_handler signo=%d\n", sig);
+}
+
+int x_error_handler(Display* display, XErrorEvent* error)
+{
+    char text[1024] = "";
+    XGetErrorText(display, error->error_code, text, sizeof text);
+    // The plain "n" at the end is part of the format.
+    std::fprintf(stderr, ":: X Error - %s (%d)n", text, error->request_code);
+    return 0;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <X11/Xlib.h>
+// Xlib's macros collide with Qt's names; what includes this file includes the Qt headers first.
+
+/**
+ * Makes sure that the configuration directories and the four configuration files exist and are readable; a
+ * file that is not is replaced by its built-in default. What could not be read is kept beside it under the
+ * name with
+ * ".rejected" appended.
+ * @return false when a directory cannot be made or a file stays unreadable after five attempts (100 ms
+ * apart); the files after that one are then not examined
+ */
+bool initConfiguration();
+
+/** Routes SIGHUP and SIGTERM to CMainWindow::signalHandler; held back until the window can take them. */
+void setup_unix_signal_handlers();
+
+/** SIGCHLD handler: reaps children until none is left, waiting for those that still run. */
+void child_handler(int sig);
+
+/** Fills the framebuffer with one byte value; a unit without one is left alone. */
+void clearScreen(int value);
+/** Clears the screen and ends the process at once. Not installed by the start-up. */
+void exit_sig_handler(int sig);
+/** Prints the signal number. Not installed by the start-up. */
+void poweroff_sig_handler(int sig);
+
+/** X error handler: prints the error and goes on. */
+int x_error_handler(Display* display, XErrorEvent* error);
