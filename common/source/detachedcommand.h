@@ -1,0 +1,72 @@
+#pragma once
+
+#include "filedescriptor.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <csignal>
+#include <sys/types.h>
+
+/**
+ * Starts a command that is not a child of this process. This is the one place that starts commands.
+ *
+ * The shell's SIGCHLD handler waits, in signal context, until no child is left, so a child that lives for
+ * more than a moment would stop the shell. The command is therefore started by a child that exits at once,
+ * and belongs to the init process, which also collects its exit status; there is none to be had here. To read
+ * its output line by line use CCommandLines or readCommandLines() (commandlines.h).
+ *
+ * The command runs by argument list, without a shell. It gets /dev/null as standard input, the default signal
+ * mask and dispositions, a process group of its own, this process's environment and working directory, and no
+ * other descriptor of this process.
+ *
+ * The destructor closes the reading end and leaves the command running. One thread at a time; any thread.
+ */
+class CDetachedCommand
+{
+public:
+    /** Where the command's standard output and standard error go. */
+    enum class Output {
+        Pipe, ///< both into one pipe, read at fd()
+        Discard ///< /dev/null, for a command that outlives the interest in it
+    };
+
+    CDetachedCommand() = default;
+    CDetachedCommand(CDetachedCommand&&) = default;
+    CDetachedCommand& operator=(CDetachedCommand&&) = default;
+
+    /**
+     * Starts argv[0] with the given arguments. A name without "/" is looked up in PATH and then in the
+     * system's own program directories. Returns when the program is running (exec has succeeded) or has
+     * failed to start: then the result is false and errorText() says why. May be called again; what ran
+     * before goes on running.
+     */
+    bool start(const QStringList& argv, Output output = Output::Pipe);
+
+    /** Process id and process group of the command; -1 before a successful start. */
+    pid_t pid() const { return m_pid; }
+
+    /** Non-blocking reading end of the command's output; end of file when all its writers are gone. -1 if
+     * none. */
+    int fd() const { return m_output.get(); }
+
+    /** Closes the reading end. The command gets SIGPIPE if it writes on. */
+    void closeOutput() { m_output.reset(); }
+
+    /**
+     * Sends a signal to the command's whole process group: SIGTERM asks, SIGINT asks as the user would,
+     * SIGKILL ends it. True if somebody was there to get it. Call it only while the output has not ended:
+     * afterwards the number may belong to somebody else.
+     */
+    bool terminate(int signalNumber = SIGTERM);
+
+    /** Why the last start failed, as the system words it; empty after a success. */
+    QString errorText() const { return m_errorText; }
+
+private:
+    bool fail(const QString& program, int error);
+
+    CFileDescriptor m_output;
+    pid_t m_pid = -1;
+    QString m_errorText;
+};
