@@ -2,14 +2,17 @@
 
 #include "widgets/pushbutton/pushbutton.h"
 
-/** A check box of touch size: a box with a tick, then the text. Exclusive boxes are drawn round. */
+/**
+ * A check box of touch size: a box with a tick, then the text. Exclusive boxes are drawn round. The box takes
+ * the text's colour, so that it is seen on any ground the text is readable on.
+ */
 class CCheckBox : public CPushButton
 {
     Q_OBJECT
 
 public:
-    explicit CCheckBox(QWidget *parent = nullptr);
-    explicit CCheckBox(const QString &text, QWidget *parent = nullptr);
+    explicit CCheckBox(QWidget* parent = nullptr);
+    explicit CCheckBox(const QString& text, QWidget* parent = nullptr);
 
     /** Exclusive boxes do not uncheck themselves when touched again; the owner unchecks the others. */
     void setExclusive(bool exclusive);
@@ -25,9 +28,13 @@ signals:
 
 protected:
     void nextCheckState() override;
-    void paintEvent(QPaintEvent *event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
+    QColor markColor() const;
+    void paintTile(QPainter& painter) const;
+    void paintBox(QPainter& painter, const QRect& box) const;
+
     bool m_exclusive = false;
     bool m_skin = false;
 };

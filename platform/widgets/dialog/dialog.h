@@ -3,35 +3,48 @@
 #include "widgets/framestyle/framestyle.h"
 
 #include <QDialog>
+#include <QList>
+#include <QPointer>
+
+class CPushButton;
 
 /**
- * Base of the modal boxes and information pages: a frameless dialog with CWidget's background and border. While
- * it is up, the window behind it is dimmed. Arrow keys move the focus marker among its buttons, Enter presses
- * the marked one, so that a box can be answered without touching it.
+ * Base of the modal boxes and information pages: a frameless dialog with CWidget's background and border.
+ * While it is up, the window behind it is dimmed. Arrow keys move the focus marker among its buttons, Enter
+ * presses the marked one, so that a box can be answered without touching it. Escape does nothing: only a
+ * button answers. The function keys F1 to F4 go on to the window behind, where they act on the instrument as
+ * ever.
  *
- * exec() runs it modally. Interface thread only.
+ * A dialog that its owner has not moved appears in the middle of the working area. exec() runs it modally.
+ * Interface thread only.
  */
 class CDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit CDialog(QWidget *parent = nullptr);
+    explicit CDialog(QWidget* parent = nullptr);
     ~CDialog() override;
 
-    void setBackgroundColor(const QColor &color);
+    void setBackgroundColor(const QColor& color);
     void setBackgroundColor(int colorCode);
-    void setBorderColor(const QColor &color);
+    void setBorderColor(const QColor& color);
     void setBorderColor(int colorCode);
     void setBorderWidth(int width);
+    /** The dialog's rectangle without its border. */
     QRect innerRect() const;
 
     /** Number by which the owner tells its dialogs apart; -1 until set. */
     void setWindowID(int id) { m_windowID = id; }
     int getWindowID() const { return m_windowID; }
 
+    /** The button that carries the arrow-key focus marker, null if none does. */
+    CPushButton* markedButton() const;
+
 public slots:
+    /** Re-applies every visible text; the base hands the call on to all children that know it. */
     virtual void translate();
+    /** Takes over a changed theme: repaints and hands the call on. */
     virtual void updateWidgetStyle();
 
 signals:
@@ -40,13 +53,23 @@ signals:
     void popOff();
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+    /**
+     * Moves the marker to the nearest button in an arrow key's direction; the first key marks the first
+     * button. Stays where it is when there is none.
+     */
+    virtual void moveMarker(int arrowKey);
 
 private:
+    QList<CPushButton*> touchableButtons() const;
+    void pressMarked();
+    void dimWindowBehind();
+
     CFrameStyle m_frame;
     int m_windowID = -1;
-    QWidget *m_pScrim = nullptr; // child of the window behind; gone with hideEvent
+    QPointer<QWidget> m_pScrim; // child of the window behind; gone with hideEvent
 };

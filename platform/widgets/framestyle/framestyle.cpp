@@ -1,1 +1,84 @@
+#include "widgets/framestyle/framestyle.h"
 
+#include "widgets/widgetstyle/widgetstyle.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+void CFrameStyle::setBackgroundColor(const QColor& color)
+{
+    m_background = {color, -1};
+}
+
+void CFrameStyle::setBackgroundColor(int colorCode)
+{
+    m_background = {QColor(), colorCode};
+}
+
+void CFrameStyle::setBorderColor(const QColor& color)
+{
+    m_border = {color, -1};
+}
+
+void CFrameStyle::setBorderColor(int colorCode)
+{
+    m_border = {QColor(), colorCode};
+}
+
+bool CFrameStyle::setBackgroundPicture(const QPixmap& picture)
+{
+    const bool changed = m_picture.cacheKey() != picture.cacheKey();
+    m_picture = picture;
+    return changed;
+}
+
+void CFrameStyle::setBorderWidths(const QMargins& widths)
+{
+    m_widths = QMargins(std::max(0, widths.left()), std::max(0, widths.top()), std::max(0, widths.right()),
+        std::max(0, widths.bottom()));
+}
+
+QColor CFrameStyle::backgroundColor() const
+{
+    return m_background.resolved();
+}
+
+QColor CFrameStyle::borderColor() const
+{
+    return m_border.resolved();
+}
+
+bool CFrameStyle::hasBackground() const
+{
+    return !m_picture.isNull() || backgroundColor().isValid();
+}
+
+void CFrameStyle::paint(QPainter& painter, const QRect& rect) const
+{
+    const QColor ground = backgroundColor();
+    if (ground.isValid())
+        painter.fillRect(rect, ground);
+    if (!m_picture.isNull())
+        painter.drawPixmap(rect.topLeft(), m_picture);
+
+    const QColor line = borderColor();
+    if (!line.isValid() || m_widths.isNull())
+        return;
+    const QRect inner = rect.marginsRemoved(m_widths);
+    const QRect sides[] = {
+        QRect(rect.left(), rect.top(), rect.width(), m_widths.top()),
+        QRect(rect.left(), rect.bottom() + 1 - m_widths.bottom(), rect.width(), m_widths.bottom()),
+        QRect(rect.left(), inner.top(), m_widths.left(), inner.height()),
+        QRect(rect.right() + 1 - m_widths.right(), inner.top(), m_widths.right(), inner.height()),
+    };
+    for (const QRect& side : sides) {
+        if (!side.isEmpty())
+            painter.fillRect(side, line);
+    }
+}
+
+QColor CFrameStyle::Paint::resolved() const
+{
+    return code < 0 ? color : CWidgetStyle::getColor(code);
+}

@@ -12,23 +12,25 @@ class QRect;
  * What CWidget and CDialog draw behind their children: a background (colour, colour code or picture) and a
  * border with its own width on each side.
  *
- * A plain value. Colours given as a code are looked up in CWidgetStyle at every paint, so a theme change needs
- * no bookkeeping here.
+ * A plain value. Colours given as a code are looked up in CWidgetStyle at every paint, so a theme change
+ * needs no bookkeeping here.
  */
 class CFrameStyle
 {
 public:
-    /** Colour given outright, or by its code in the theme; the later call wins. An invalid colour paints nothing. */
-    void setBackgroundColor(const QColor &color);
+    /** Colour given outright, or by its code in the theme; the later call wins. An invalid colour paints
+     * nothing. */
+    void setBackgroundColor(const QColor& color);
     void setBackgroundColor(int colorCode);
-    void setBorderColor(const QColor &color);
+    void setBorderColor(const QColor& color);
     void setBorderColor(int colorCode);
 
-    /** Picture drawn at the top-left corner over the background colour; a null picture removes it. */
-    void setBackgroundPicture(const QPixmap &picture);
+    /** Picture drawn at the top-left corner over the background colour; a null picture removes it. @return
+     * whether it changed */
+    bool setBackgroundPicture(const QPixmap& picture);
 
     /** Width of each side in pixels; negative widths count as 0. */
-    void setBorderWidths(const QMargins &widths);
+    void setBorderWidths(const QMargins& widths);
     QMargins borderWidths() const { return m_widths; }
 
     QColor backgroundColor() const;
@@ -36,7 +38,7 @@ public:
     bool hasBackground() const;
 
     /** Fills `rect` and draws the border just inside it. */
-    void paint(QPainter &painter, const QRect &rect) const;
+    void paint(QPainter& painter, const QRect& rect) const;
 
 private:
     struct Paint

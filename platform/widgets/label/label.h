@@ -4,21 +4,21 @@
 
 /**
  * A text on a CWidget's background. Text that does not fit ends in an ellipsis, or is wrapped when asked;
- * line feeds in the text start a new line.
+ * line feeds in the text start a new line. Plain text only.
  */
 class CLabel : public CWidget
 {
     Q_OBJECT
 
 public:
-    explicit CLabel(QWidget *parent = nullptr);
-    explicit CLabel(const QString &text, QWidget *parent = nullptr);
+    explicit CLabel(QWidget* parent = nullptr);
+    explicit CLabel(const QString& text, QWidget* parent = nullptr);
 
-    void setText(const QString &text);
+    void setText(const QString& text);
     QString text() const { return m_text; }
-    void setTextColor(const QColor &color);
+    void setTextColor(const QColor& color);
     void setTextColor(int colorCode);
-    /** Pixel size; 0 takes the application font's. */
+    /** Pixel size; 0 takes the theme's, or that of setFont(). */
     void setTextSize(int pixels);
     void setBold(bool bold);
     void setAlignment(Qt::Alignment alignment);
@@ -29,7 +29,7 @@ public:
     int heightForWidth(int width) const override;
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QFont textFont() const;

@@ -3,11 +3,11 @@
 #include "widgets/dialog/dialog.h"
 
 class CLabel;
-class CPushButton;
 
 /**
- * The message box: a title band, a message and one or more buttons. Sizes itself to its text within the working
- * area. The buttons carry the object names "ok", "cancel", "yes" and "no".
+ * The message box: a title band, a message and one or more buttons. Sizes itself to its text within the
+ * working area, again after every change of a text or size. The buttons carry the object names "ok",
+ * "cancel", "yes" and "no"; all four arrow keys move the marker along them.
  */
 class CMessageBox : public CDialog
 {
@@ -17,7 +17,7 @@ public:
     enum Button { NoButton = 0x0, Ok = 0x1, Cancel = 0x2, Yes = 0x4, No = 0x8 };
     Q_DECLARE_FLAGS(Buttons, Button)
 
-    CMessageBox(const QString &title, const QString &text, Buttons buttons, QWidget *parent = nullptr);
+    CMessageBox(const QString& title, const QString& text, Buttons buttons, QWidget* parent = nullptr);
 
     void setTitleBackgroundColor(int colorCode);
     void setTitleTextColor(int colorCode);
@@ -34,18 +34,26 @@ public:
     int exec() override;
     Button answer() const { return m_answer; }
 
-    /** Title "Information" style box with the given buttons in one call. */
-    static Button information(QWidget *parent, const QString &title, const QString &text, Buttons buttons);
+    /** Box with the given buttons, in the middle of the working area, in one call. @return as exec() */
+    static Button information(QWidget* parent, const QString& title, const QString& text, Buttons buttons);
+
+public slots:
+    void translate() override;
+    void updateWidgetStyle() override;
 
 protected:
-    void resizeEvent(QResizeEvent *event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void moveMarker(int arrowKey) override;
 
 private:
+    void adjustToText();
     void layoutParts();
+    int buttonRowWidth() const;
+    int textHeight(int boxWidth) const;
 
-    CLabel *m_pTitle;
-    CLabel *m_pText;
-    QList<CPushButton *> m_buttons;
+    CLabel* m_pTitle;
+    CLabel* m_pText;
+    QList<CPushButton*> m_buttons;
     Button m_answer = NoButton;
 };
 

@@ -7,31 +7,47 @@
 #include <QVariant>
 
 /**
- * The touch push button: released, pressed, focused (arrow keys) and disabled looks, with text, picture or both.
+ * The touch push button: released, pressed, focused (arrow keys) and disabled looks, with text, picture or
+ * both.
  *
- * Unless told otherwise it draws the theme's standard button. Emits QPushButton's clicked(bool).
- * Interface thread only. Owned by its Qt parent.
+ * Unless told otherwise it draws the theme's standard button. It takes no keyboard focus: arrow keys go to
+ * the window, which moves the marker. A text that does not fit is made a little smaller, then elided; a line
+ * feed starts a new line. Emits QPushButton's clicked(bool). Interface thread only. Owned by its Qt parent.
  */
 class CPushButton : public QPushButton
 {
     Q_OBJECT
 
 public:
-    /** Looks that replace the standard ones: pictures are QPixmap, colours QColor or a theme colour code (int). */
-    enum ExtraAttribute { PressBackground = 0, ReleaseBackground = 1, SelectBackground = 2, PressColor = 3, ReleaseColor = 4 };
+    /**
+     * Looks that replace the standard ones: backgrounds are QPixmap, QColor or a theme colour code (int),
+     * colours QColor or a theme colour code. A theme's button picture is drawn at the button's size and
+     * follows the theme.
+     */
+    enum ExtraAttribute {
+        PressBackground = 0,
+        ReleaseBackground = 1,
+        SelectBackground = 2,
+        PressColor = 3,
+        ReleaseColor = 4
+    };
 
-    explicit CPushButton(QWidget *parent = nullptr);
-    explicit CPushButton(const QString &text, QWidget *parent = nullptr);
+    explicit CPushButton(QWidget* parent = nullptr);
+    explicit CPushButton(const QString& text, QWidget* parent = nullptr);
 
-    void setExtraAttribute(ExtraAttribute attribute, const QVariant &value);
+    /** An invalid QVariant takes the attribute away again. */
+    void setExtraAttribute(ExtraAttribute attribute, const QVariant& value);
     QVariant extraAttribute(ExtraAttribute attribute) const;
 
     /** Picture of the released state, drawn over the fill and under icon and text. */
-    void setBackgroundImage(const QPixmap &picture);
-    /** Fill instead of the standard button; an invalid colour goes back to the standard look. */
-    void setBackgroundColor(const QColor &color);
-    void setTextColor(const QColor &color);
-    /** Pixel size of the text; 0 takes the application font's. */
+    void setBackgroundImage(const QPixmap& picture);
+    /**
+     * Fill instead of the standard button; an invalid colour goes back to the standard look. On a fill on
+     * which the text cannot be read, the text gets the standard button as its plate.
+     */
+    void setBackgroundColor(const QColor& color);
+    void setTextColor(const QColor& color);
+    /** Pixel size of the text; 0 takes the theme's, or that of setFont(). */
     void setTextSize(int pixels);
 
     /** The arrow-key focus marker: SelectBackground if there is one, and a frame in the accent colour. */
@@ -41,20 +57,51 @@ public:
     QSize sizeHint() const override;
 
 public slots:
+    /** Takes over a changed theme. */
     virtual void updateWidgetStyle();
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    void paintEvent(QPaintEvent* event) override;
+    /** Font of the text: setFont()'s or the theme's of this kind, in the text size if one is set. */
+    QFont textFont(int fontKind) const;
     /** Text colour of the present state. */
     QColor currentTextColor() const;
+    /** The text colour set, `fallback` if none was. */
+    QColor textColorOr(const QColor& fallback) const
+    {
+        return m_textColor.isValid() ? m_textColor : fallback;
+    }
+    /** Everything under icon and text in the present state. */
+    void paintGround(QPainter& painter) const;
     /** Draws the focus marker when it is set. */
-    void paintFocusMarker(QPainter &painter) const;
+    void paintFocusMarker(QPainter& painter, int radius) const;
+    /** Picture of the present state from the attributes, null if they have none for it. */
+    QPixmap statePicture() const;
+    QPixmap backgroundImage() const { return m_background.picture; }
 
 private:
-    QPixmap currentBackground() const;
+    /** A picture, or the standard button of a status that it stood for. */
+    struct Ground
+    {
+        QPixmap picture;
+        QColor color;
+        int buttonStatus = -1;
+        int colorCode = -1;
+        bool isSet() const
+        {
+            return buttonStatus >= 0 || colorCode >= 0 || color.isValid() || !picture.isNull();
+        }
+    };
+
+    static Ground groundOf(const QVariant& value);
+    Ground currentGround() const;
+    void paintOne(QPainter& painter, const Ground& ground) const;
+    QColor attributeColor(ExtraAttribute attribute) const;
+    bool standsOut(const QColor& fill) const;
 
     QHash<int, QVariant> m_attributes;
-    QPixmap m_background;
+    QHash<int, Ground> m_grounds; // of the three background attributes
+    Ground m_background;
     QColor m_fill;
     QColor m_textColor;
     int m_textSize = 0;

@@ -1,58 +1,30 @@
 #pragma once
 
-#include "widgets/pushbutton/pushbutton.h"
+#include "widgets/toolbox/toolboxbutton.h"
 #include "widgets/widget/widget.h"
 
 #include <QList>
 
-/** One touchable row of a tool box: a page header or an item. Made by CToolBox. */
-class CToolBoxButton : public CPushButton
-{
-    Q_OBJECT
-
-public:
-    enum Role { PageHeader, Item };
-
-    CToolBoxButton(Role role, const QString &iconName, const QString &text, int id, QWidget *parent);
-
-    Role role() const { return m_role; }
-    /** The item's identifier; -1 for a page header. */
-    int id() const { return m_id; }
-    /** A page header that is open, or the item chosen last. */
-    void setActive(bool active);
-    bool isActive() const { return m_active; }
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
-
-private:
-    Role m_role;
-    QString m_iconName;
-    int m_id;
-    bool m_active = false;
-    QPixmap m_icon; // decoded at the first paint
-};
-
 /**
- * A column of pages that collapse to their headers; at most one page is open. Touching a header opens its page
- * (or closes it), touching an item emits currentItemChanged() with the item's identifier, also for the same item
- * again.
+ * A column of pages that collapse to their headers; at most one page is open. Touching a header opens its
+ * page (or closes it), touching an item emits currentItemChanged() with the item's identifier, also for the
+ * same item again. Each header's lower edge is a thin line; rows that do not fit are cut off at the bottom.
  */
 class CToolBox : public CWidget
 {
     Q_OBJECT
 
 public:
-    explicit CToolBox(QWidget *parent = nullptr);
+    explicit CToolBox(QWidget* parent = nullptr);
 
     /** Appends a page; iconName is a picture resource. @return the page's index */
-    int addPage(const QString &iconName, const QString &text);
+    int addPage(const QString& iconName, const QString& text);
     /** Appends an item to a page. @return its index in the page, or -1 for no such page */
-    int addItem(int page, const QString &iconName, const QString &text, int id);
+    int addItem(int page, const QString& iconName, const QString& text, int id);
 
     /** Re-labels; an index that does not exist is ignored. */
-    void setPageText(int page, const QString &text);
-    void setItemText(int page, int item, const QString &text);
+    void setPageText(int page, const QString& text);
+    void setItemText(int page, int item, const QString& text);
     QString pageText(int page) const;
     QString itemText(int page, int item) const;
     int pageCount() const { return m_pages.size(); }
@@ -69,19 +41,24 @@ public:
 signals:
     void currentItemChanged(int id);
 
+public slots:
+    void updateWidgetStyle() override;
+
 protected:
-    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     struct Page
     {
-        CToolBoxButton *header = nullptr; // owned by this widget, as the items
-        QList<CToolBoxButton *> items;
+        CToolBoxButton* header = nullptr; // owned by this widget, as the items
+        QList<CToolBoxButton*> items;
     };
 
+    CToolBoxButton* addRow(CToolBoxButton::Role role, const QString& iconName, const QString& text, int id);
     void layoutRows();
-    void chooseItem(CToolBoxButton *item);
-    CToolBoxButton *itemAt(int page, int item) const;
+    void chooseItem(CToolBoxButton* item);
+    CToolBoxButton* itemAt(int page, int item) const;
 
     QList<Page> m_pages;
     int m_open = -1;

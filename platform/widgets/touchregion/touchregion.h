@@ -6,7 +6,7 @@
  * Drops mouse and touch events anywhere in the process whose position on the screen lies in the application
  * property "NonInteractiveRegion" (a QRect in screen pixels; null or unset drops nothing).
  *
- * installTouchRegion() puts the one filter on the application; further calls do nothing. CWidget and CDialog call
- * it, so a program that uses the controls needs no call of its own.
+ * installTouchRegion() puts the one filter on the application; further calls do nothing. CWidget and CDialog
+ * call it, so a program that uses the controls needs no call of its own.
  */
 void installTouchRegion();

@@ -1,1 +1,101 @@
+#include "widgets/widget/widget.h"
 
+#include "widgets/touchregion/touchregion.h"
+#include "widgets/widget/treecall.h"
+#include "widgets/widgetstyle/stylepainter.h"
+
+#include <QPainter>
+
+CWidget::CWidget(QWidget* parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags)
+{
+    installTouchRegion();
+}
+
+void CWidget::setBackgroundColor(const QColor& color)
+{
+    const QColor before = m_frame.backgroundColor();
+    m_frame.setBackgroundColor(color);
+    if (before != m_frame.backgroundColor())
+        update();
+}
+
+void CWidget::setBackgroundColor(int colorCode)
+{
+    const QColor before = m_frame.backgroundColor();
+    m_frame.setBackgroundColor(colorCode);
+    if (before != m_frame.backgroundColor())
+        update();
+}
+
+void CWidget::setBackgroundImage(const QPixmap& picture)
+{
+    if (m_frame.setBackgroundPicture(picture))
+        update();
+}
+
+void CWidget::setBorderColor(const QColor& color)
+{
+    const QColor before = m_frame.borderColor();
+    m_frame.setBorderColor(color);
+    if (before != m_frame.borderColor())
+        update();
+}
+
+void CWidget::setBorderColor(int colorCode)
+{
+    const QColor before = m_frame.borderColor();
+    m_frame.setBorderColor(colorCode);
+    if (before != m_frame.borderColor())
+        update();
+}
+
+void CWidget::setBorderWidth(int width)
+{
+    setBorderWidth(width, width, width, width);
+}
+
+void CWidget::setBorderWidth(int left, int top, int right, int bottom)
+{
+    const QMargins before = m_frame.borderWidths();
+    m_frame.setBorderWidths(QMargins(left, top, right, bottom));
+    if (before != m_frame.borderWidths())
+        update();
+}
+
+QRect CWidget::innerRect() const
+{
+    return rect().marginsRemoved(m_frame.borderWidths());
+}
+
+void CWidget::setArrowKeyFocus(bool on)
+{
+    if (m_arrowKeyFocus == on)
+        return;
+    m_arrowKeyFocus = on;
+    update();
+}
+
+void CWidget::translate()
+{
+    callInTree(this, "translate()");
+}
+
+void CWidget::updateWidgetStyle()
+{
+    update();
+    callInTree(this, "updateWidgetStyle()");
+}
+
+void CWidget::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    m_frame.paint(painter, rect());
+    paintFocusMarker(painter);
+}
+
+void CWidget::paintFocusMarker(QPainter& painter) const
+{
+    if (m_arrowKeyFocus)
+        CStylePainter::paintFocusMarker(painter, rect());
+}

@@ -16,22 +16,28 @@ class CWidget : public QWidget
 
 public:
     /**
-     * Type codes of the library's own classes. Arrow-key navigation skips TypePlain and TypeLabel: the one only
-     * groups other widgets, the other cannot be touched.
+     * Type codes of the library's own classes. Arrow-key navigation skips TypePlain and TypeLabel: the one
+     * only groups other widgets, the other cannot be touched.
      */
-    enum TypeCode { TypePlain = 0x10000, TypeControl = 0x10001, TypeToolBox = 0x10010, TypeEntryGrid = 0x10020, TypeLabel = 0x10063 };
+    enum TypeCode {
+        TypePlain = 0x10000,
+        TypeControl = 0x10001,
+        TypeToolBox = 0x10010,
+        TypeEntryGrid = 0x10020,
+        TypeLabel = 0x10063
+    };
 
-    explicit CWidget(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
+    explicit CWidget(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
 
-    void setBackgroundColor(const QColor &color);
+    void setBackgroundColor(const QColor& color);
     void setBackgroundColor(int colorCode);
-    void setBackgroundImage(const QPixmap &picture);
-    void setBorderColor(const QColor &color);
+    void setBackgroundImage(const QPixmap& picture);
+    void setBorderColor(const QColor& color);
     void setBorderColor(int colorCode);
     /** Border width in pixels: all four sides, or left, top, right, bottom. */
     void setBorderWidth(int width);
     void setBorderWidth(int left, int top, int right, int bottom);
-    const CFrameStyle &frameStyle() const { return m_frame; }
+    const CFrameStyle& frameStyle() const { return m_frame; }
 
     /** The widget's rectangle without its border. */
     QRect innerRect() const;
@@ -44,17 +50,19 @@ public:
     bool hasArrowKeyFocus() const { return m_arrowKeyFocus; }
 
 public slots:
-    /** Re-applies every visible text in the current language. The base hands the call on to all CWidget children. */
+    /** Re-applies every visible text in the current language. The base hands the call on to all CWidget
+     * children. */
     virtual void translate();
-    /** Takes over a changed theme: repaints this widget and hands the call on to all children that know it. */
+    /** Takes over a changed theme: repaints this widget and hands the call on to all children that know it.
+     */
     virtual void updateWidgetStyle();
 
 protected:
     void setTypeCode(int code) { m_typeCode = code; }
     /** Background, then border; a derived class that paints more calls this first. */
-    void paintEvent(QPaintEvent *event) override;
+    void paintEvent(QPaintEvent* event) override;
     /** Draws the focus marker when it is set; called by the base paint, and by classes that paint over it. */
-    void paintFocusMarker(QPainter &painter) const;
+    void paintFocusMarker(QPainter& painter) const;
 
 private:
     CFrameStyle m_frame;

@@ -16,18 +16,22 @@ class KpWidgetStack : public QObject
     Q_OBJECT
 
 public:
-    static KpWidgetStack *instance();
+    static KpWidgetStack* instance();
 
-    void pushPage(QWidget *page);
+    /** Puts a page on top; one that is on the stack already moves up. Null is ignored. */
+    void pushPage(QWidget* page);
     /** Hides the top page. @return false when the stack was empty */
     bool popPage();
+    /** Hides every page and empties the stack. */
     void popAllPages();
-    QWidget *currentPage() const;
+    /** The top page, null when the stack is empty. */
+    QWidget* currentPage() const;
     int count() const;
 
 private:
     using QObject::QObject;
     void dropDeleted();
+    void showTop();
 
     QList<QPointer<QWidget>> m_pages;
 };

@@ -18,7 +18,14 @@ class CWidgetStyle
 {
 public:
     /** Numbers of the screen regions (x, y, width, height in screen pixels). */
-    enum ScreenRegion { RegionScreen = 0, RegionTopBar = 1, RegionPageFrame = 2, RegionToolBox = 3, RegionWorkingArea = 4, RegionBottomBar = 7 };
+    enum ScreenRegion {
+        RegionScreen = 0,
+        RegionTopBar = 1,
+        RegionPageFrame = 2,
+        RegionToolBox = 3,
+        RegionWorkingArea = 4,
+        RegionBottomBar = 7
+    };
 
     /** Colour codes. The numbers are fixed, the colours are the theme's. */
     enum ColorCode {
@@ -43,18 +50,33 @@ public:
         ColorCount
     };
 
-    enum FontKind { FontSmall = 0, FontText = 1, FontTopText = 2, FontNavigation = 3, FontTabIndex = 4, FontTabCaption = 5, FontTable = 6, FontEntry = 7, FontToolPage = 8, FontToolItem = 9, FontCount };
+    enum FontKind {
+        FontSmall = 0,
+        FontText = 1,
+        FontTopText = 2,
+        FontNavigation = 3,
+        FontTabIndex = 4,
+        FontTabCaption = 5,
+        FontTable = 6,
+        FontEntry = 7,
+        FontToolPage = 8,
+        FontToolItem = 9,
+        FontButton = 10,
+        FontCount
+    };
 
     enum ButtonStatus { ButtonReleased = 0, ButtonPressed = 1, ButtonFocused = 2, ButtonDisabled = 3 };
 
     /**
      * Reads the theme file over the current values.
-     * @return false when the file cannot be opened or parsed; the values are then unchanged, and a log line says so
+     * @return false when the file cannot be opened or parsed; the values are then unchanged, and a log line
+     * says so
      */
-    static bool initialize(const QString &fileName);
+    static bool initialize(const QString& fileName);
 
-    /** Goes back to the built-in theme before another file is read, so that nothing of the old file survives. */
-    static void setWidgetStyle(const QString &fileName);
+    /** Goes back to the built-in theme before another file is read, so that nothing of the old file survives.
+     */
+    static void setWidgetStyle(const QString& fileName);
 
     /** The region's rectangle; a null rectangle for a number that has none. */
     static QRect getScreenRegion(int region);
@@ -64,8 +86,23 @@ public:
     static QFont getFont(int kind);
     /** Background picture of a standard button in a status, stretched by its painter; drawn once and kept. */
     static QPixmap getButtonPixmap(int status);
-    /** Ground of an entry tile of a colour type (CEntryItem::ColorType); type 1's colour outside the table. */
+    /** The status whose getButtonPixmap() this is, -1 for any other picture: its painter can then draw it at
+     * any size. */
+    static int buttonStatusOf(const QPixmap& picture);
+    /** Colours and frame width of the standard button in a status; an unknown status counts as released. */
+    struct ButtonLook
+    {
+        QColor fill;
+        QColor text;
+        QColor frame;
+        int frameWidth = 0;
+        QString picture; ///< file or resource to stretch instead; mostly empty
+    };
+    static ButtonLook getButtonLook(int status);
+    /** Ground of an entry tile of a colour type (CEntryItem::ColorType); type 1's colour outside the table.
+     */
     static QColor getEntryColor(int type);
-    /** Milliseconds, pixels and other single numbers of the theme by name; `fallback` if the theme has none. */
-    static int getMetric(const QString &name, int fallback);
+    /** Milliseconds, pixels and other single numbers of the theme by name; `fallback` if the theme has none.
+     */
+    static int getMetric(const QString& name, int fallback);
 };
