@@ -20,9 +20,11 @@
 
 namespace {
 
-// Every line of a glyph has this width; a gap is the same shape drawn wider and erased.
+// Every line of a glyph has this width; a gap is the same shape drawn wider, filled, and erased.
 const char* const strokeWidth = "stroke-width=\"2.4\"";
-const char* const gapStrokeWidth = "stroke-width=\"7\"";
+const char* const gapStrokeWidth = "stroke-width=\"6.2\"";
+const char* const noFill = "fill=\"none\"";
+const char* const gapFill = "fill=\"#000000\"";
 
 class CPictureComposer
 {
@@ -86,7 +88,7 @@ private:
         QByteArray source = glyphSource(layer.glyph);
         source.replace("currentColor", layer.tint.name(QColor::HexRgb).toLatin1());
         if (layer.kind == Layer::Gap)
-            source.replace(strokeWidth, gapStrokeWidth);
+            source.replace(strokeWidth, gapStrokeWidth).replace(noFill, gapFill);
         QSvgRenderer renderer(source);
         if (!renderer.isValid()) {
             m_errors << QStringLiteral("glyph %1 is missing or damaged").arg(layer.glyph);
