@@ -7,7 +7,6 @@
 #include <QTimer>
 
 #include <functional>
-#include <memory>
 
 class QSocketNotifier;
 
@@ -54,13 +53,14 @@ signals:
 
 private:
     void readOutput();
+    bool deliver(const QStringList& lines);
     void killCommand();
     void closeOutput();
     void finish();
 
     CDetachedCommand m_command;
     CLineSplitter m_splitter;
-    std::unique_ptr<QSocketNotifier> m_pNotifier;
+    QSocketNotifier* m_pNotifier = nullptr;
     QTimer m_killTimer;
 };
 
@@ -68,8 +68,8 @@ private:
  * Runs argv detached and calls onLine for every line of its output (see CCommandLines for what a line is), in
  * the calling thread, which blocks. Ends when the output ends, after timeoutMs milliseconds (negative: no
  * limit) or when onLine returns false; in the two latter cases the command's process group is asked to end
- * and killed if it does not within 200 ms. False only if the command could not be started. Meant for worker
- * threads.
+ * and killed if it does not within 200 ms, and a line still incomplete is dropped. False only if the command
+ * could not be started. Meant for worker threads.
  */
 bool readCommandLines(
     const QStringList& argv, int timeoutMs, const std::function<bool(const QString& line)>& onLine);

@@ -1,1 +1,204 @@
+#include "detachedcommand.h"
 
+#include <QByteArray>
+#include <QStandardPaths>
+#include <QVarLengthArray>
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <pthread.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+namespace {
+
+// What the two processes on the way to the command report to the starter, through a pipe that exec closes.
+enum class Event : int { Running, Failed };
+
+struct Report
+{
+    Event event;
+    int value; // Running: process id; Failed: errno
+};
+
+// Everything the processes between fork and exec need, prepared before the fork: there only async-signal-safe
+// calls are allowed.
+struct Launch
+{
+    const char* program;
+    char* const* arguments;
+    int input;
+    int output;
+    int reports;
+    int descriptorLimit;
+};
+
+// A pipe whose ends are never 0, 1 or 2, so that putting them into the standard places cannot overwrite one.
+bool openPipe(CFileDescriptor& readEnd, CFileDescriptor& writeEnd)
+{
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) != 0)
+        return false;
+    readEnd.reset(ends[0]);
+    writeEnd.reset(ends[1]);
+    for (CFileDescriptor* end : {&readEnd, &writeEnd}) {
+        if (end->get() > STDERR_FILENO)
+            continue;
+        const int moved = ::fcntl(end->get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+        if (moved < 0)
+            return false;
+        end->reset(moved);
+    }
+    return true;
+}
+
+QString findProgram(const QString& name)
+{
+    if (name.isEmpty() || name.contains(QLatin1Char('/')))
+        return name;
+    const QString found = QStandardPaths::findExecutable(name);
+    if (!found.isEmpty())
+        return found;
+    // The tools of a unit live in directories that a user's PATH may lack.
+    return QStandardPaths::findExecutable(name,
+        {QStringLiteral("/usr/local/sbin"), QStringLiteral("/usr/local/bin"), QStringLiteral("/usr/sbin"),
+            QStringLiteral("/usr/bin"), QStringLiteral("/sbin"), QStringLiteral("/bin")});
+}
+
+void sendReport(int fd, Event event, int value)
+{
+    const Report report = {event, value};
+    while (::write(fd, &report, sizeof report) < 0 && errno == EINTR) { }
+}
+
+bool receiveReport(int fd, Report& report)
+{
+    ssize_t count;
+    do {
+        count = ::read(fd, &report, sizeof report); // shorter than PIPE_BUF: arrives whole
+    } while (count < 0 && errno == EINTR);
+    return count == static_cast<ssize_t>(sizeof report);
+}
+
+void closeOthers(const Launch& launch)
+{
+    const auto reports = static_cast<unsigned>(launch.reports);
+    if (reports > 3)
+        ::close_range(3, reports - 1, 0);
+    if (::close_range(reports + 1, ~0U, 0) == 0)
+        return;
+    for (int fd = 3; fd < launch.descriptorLimit; ++fd) { // a kernel without close_range
+        if (fd != launch.reports)
+            ::close(fd);
+    }
+}
+
+void restoreSignals()
+{
+    struct sigaction action = {};
+    action.sa_handler = SIG_DFL;
+    for (int number = 1; number < NSIG; ++number)
+        ::sigaction(
+            number, &action, nullptr); // fails for SIGKILL, SIGSTOP and the C library's own, as it should
+    sigset_t none;
+    ::sigemptyset(&none);
+    ::sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
+[[noreturn]] void runCommand(const Launch& launch)
+{
+    ::setpgid(0, 0);
+    sendReport(launch.reports, Event::Running, ::getpid());
+    if (::dup2(launch.input, STDIN_FILENO) >= 0 && ::dup2(launch.output, STDOUT_FILENO) >= 0
+        && ::dup2(launch.output, STDERR_FILENO) >= 0) {
+        closeOthers(launch);
+        restoreSignals();
+        ::execve(launch.program, launch.arguments, environ);
+    }
+    sendReport(launch.reports, Event::Failed, errno);
+    ::_exit(127);
+}
+
+} // namespace
+
+bool CDetachedCommand::start(const QStringList& argv, Output output)
+{
+    m_output.reset();
+    m_pid = -1;
+    m_errorText.clear();
+
+    const QString name = argv.value(0);
+    const QByteArray program = findProgram(name).toLocal8Bit();
+    if (program.isEmpty())
+        return fail(name, ENOENT);
+    QList<QByteArray> texts;
+    QVarLengthArray<char*, 16> arguments;
+    for (const QString& argument : argv)
+        texts << argument.toLocal8Bit();
+    for (QByteArray& text : texts)
+        arguments.append(text.data());
+    arguments.append(nullptr);
+
+    CFileDescriptor reportRead, reportWrite, outputRead, outputWrite;
+    if (!openPipe(reportRead, reportWrite) || (output == Output::Pipe && !openPipe(outputRead, outputWrite)))
+        return fail(name, errno);
+    const CFileDescriptor null(::open("/dev/null", O_RDWR | O_CLOEXEC));
+    if (!null.isValid())
+        return fail(name, errno);
+    rlimit limit = {};
+    ::getrlimit(RLIMIT_NOFILE, &limit);
+    const Launch launch = {program.constData(), arguments.constData(), null.get(),
+        output == Output::Pipe ? outputWrite.get() : null.get(), reportWrite.get(),
+        static_cast<int>(qMin<rlim_t>(limit.rlim_cur, 65536))};
+
+    // No handler of this process may run in the processes between: they share its signal pipe.
+    sigset_t all, before;
+    ::sigfillset(&all);
+    ::pthread_sigmask(SIG_SETMASK, &all, &before);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const pid_t command = ::fork();
+        if (command == 0)
+            runCommand(launch);
+        if (command < 0)
+            sendReport(launch.reports, Event::Failed, errno);
+        ::_exit(0);
+    }
+    const int forkError = errno;
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    if (child < 0)
+        return fail(name, forkError);
+
+    // ECHILD is fine: the SIGCHLD handler, in whatever thread it runs, may have been faster.
+    while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) { }
+    reportWrite.reset();
+    outputWrite.reset();
+
+    Report report = {};
+    while (receiveReport(reportRead.get(), report)) {
+        if (report.event == Event::Failed) {
+            m_pid = -1;
+            return fail(name, report.value);
+        }
+        m_pid = report.value;
+    }
+    if (m_pid < 0)
+        return fail(name, ECHILD); // killed before it could say why
+
+    if (outputRead.isValid())
+        ::fcntl(outputRead.get(), F_SETFL, O_NONBLOCK);
+    m_output = std::move(outputRead);
+    return true;
+}
+
+bool CDetachedCommand::terminate(int signalNumber)
+{
+    return m_pid > 0 && ::kill(-m_pid, signalNumber) == 0;
+}
+
+bool CDetachedCommand::fail(const QString& program, int error)
+{
+    m_errorText = QStringLiteral("%1: %2").arg(program, QString::fromLocal8Bit(std::strerror(error)));
+    return false;
+}

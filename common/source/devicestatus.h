@@ -3,12 +3,16 @@
 #include <QMetaType>
 #include <QString>
 
-// Status records of the devices: plain values, sent once a second as queued signal arguments. Receivers decide
-// what changed. Field names are part of the interface and stay as they are spelled.
+// Status records of the devices: plain values, sent once a second as queued signal arguments. Receivers
+// decide what changed. Field names are part of the interface and stay as they are spelled.
 
 enum SystemGPSStatus { SysStsGPSOnSync = 0, SysStsGPSOnPoor = 1, SysStsGPSNoSync = 2, SysStsGPSOff = 3 };
 
-enum SystemDataCardStatus { SysStsDataCardConnected = 0, SysStsDataCardNotConnected = 1, SysStsDataCardOff = 2 };
+enum SystemDataCardStatus {
+    SysStsDataCardConnected = 0,
+    SysStsDataCardNotConnected = 1,
+    SysStsDataCardOff = 2
+};
 
 struct PowerStatus
 {

@@ -17,7 +17,7 @@ class CSigTransfer : public QObject
     Q_OBJECT
 
 public:
-    explicit CSigTransfer(QObject *parent = nullptr);
+    explicit CSigTransfer(QObject* parent = nullptr);
     ~CSigTransfer() override;
 
 signals:
@@ -38,4 +38,4 @@ signals:
 };
 
 /** The process's relay; null before the main window made it. */
-extern CSigTransfer *g_pSigTransfer;
+extern CSigTransfer* g_pSigTransfer;

@@ -1,1 +1,154 @@
+#include "systemsettings.h"
 
+#include "systemattributes.h"
+#include "xmlfile.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDomElement>
+
+namespace {
+
+// The store cannot hold an empty key; the attributes without a key of their own share this one.
+constexpr const char SharedKey[] = "Unnamed";
+
+constexpr int GpsOff = 3;
+
+// Values of SaveScreenCompressLevel
+constexpr int CompressHigh = 65000;
+constexpr int CompressMiddle = 65001;
+constexpr int CompressNone = 65002;
+
+QString defaultsProfile()
+{
+    return QStringLiteral("/home/arvo/arvo-prof/arvoglobal-setting/Last configuration");
+}
+
+QString storeKey(CSystemSettings::SystemAttribute attribute)
+{
+    const QString name = CSystemSettings::getAttributeName(attribute);
+    return name.isEmpty() ? QString::fromLatin1(SharedKey) : name;
+}
+
+bool isText(const QString& text, const char* expected)
+{
+    return text.compare(QLatin1String(expected), Qt::CaseInsensitive) == 0;
+}
+
+QVariant compressLevel(const QString& text)
+{
+    if (isText(text, "high"))
+        return CompressHigh;
+    return isText(text, "nocompress") ? CompressNone : CompressMiddle;
+}
+
+QVariant profileValue(CSystemSettings::SystemAttribute attribute, const QString& text)
+{
+    if (attribute == CSystemSettings::SaveScreenCompressLevel)
+        return compressLevel(text);
+    if (isText(text, "on"))
+        return true;
+    if (isText(text, "off"))
+        return false;
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return isNumber ? QVariant(number) : QVariant(text);
+}
+
+} // namespace
+
+CSystemSettings* CSystemSettings::globalSettings()
+{
+    static CSystemSettings* const instance = new CSystemSettings;
+    return instance;
+}
+
+CSystemSettings::CSystemSettings(QObject* parent)
+    : QObject(parent)
+{
+    setAttribute(GPS_State_ON, GpsOff);
+    attachGlobalSetting();
+    creatAttrStrMap();
+
+    // The instance outlives the event loop, which else writes the file after each burst of changes.
+    if (QCoreApplication::instance())
+        connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
+            [this] { m_settings.sync(); });
+}
+
+CSystemSettings::~CSystemSettings()
+{
+    detachGlobalSetting();
+}
+
+void CSystemSettings::setAttribute(SystemAttribute attribute, const QVariant& value, bool save)
+{
+    if (!isValidAttribute(attribute))
+        return;
+    // A value that stays the same must not cost a write of the settings file: some are set every second.
+    const QString key = storeKey(attribute);
+    const QVariant stored = m_settings.value(key);
+    if (stored.userType() != value.userType() || stored != value)
+        m_settings.setValue(key, value);
+    if (save && isNeedSaveDef(attribute))
+        saveAttribute(attribute, value);
+    emit attributeChanged(attribute);
+}
+
+QVariant CSystemSettings::getAttribute(SystemAttribute attribute) const
+{
+    return isValidAttribute(attribute) ? m_settings.value(storeKey(attribute)) : QVariant();
+}
+
+QString CSystemSettings::getAttributeName(SystemAttribute attribute)
+{
+    const SystemAttributeInfo* const info = systemAttributeInfo(attribute);
+    return info ? QString::fromLatin1(info->storeKey) : QString();
+}
+
+bool CSystemSettings::isValidAttribute(SystemAttribute attribute)
+{
+    return attribute > AttributeBegin && attribute < AttributeEnd;
+}
+
+bool CSystemSettings::isNeedSaveDef(SystemAttribute attribute)
+{
+    const SystemAttributeInfo* const info = systemAttributeInfo(attribute);
+    return info && info->conversion != FieldConversion::NotSaved;
+}
+
+void CSystemSettings::creatAttrStrMap()
+{
+    for (int number = AttributeBegin + 1; number < AttributeEnd; ++number) {
+        const SystemAttributeInfo* const info = systemAttributeInfo(static_cast<SystemAttribute>(number));
+        if (info->profileName)
+            m_attrStrMap.insert(QString::fromLatin1(info->profileName), info->attribute);
+    }
+}
+
+void CSystemSettings::loadDefAttribute()
+{
+    QDomDocument document;
+    switch (xmlfile::read(defaultsProfile(), document)) {
+    case xmlfile::ReadResult::CannotOpen:
+        qWarning("[%s]: Configuration file can not open.", qPrintable(defaultsProfile()));
+        break;
+    case xmlfile::ReadResult::CannotParse:
+        qWarning("[%s]: Configuration file can not parse.", qPrintable(defaultsProfile()));
+        break;
+    case xmlfile::ReadResult::Ok:
+        loadSubAttributeString(document.documentElement());
+        break;
+    }
+}
+
+void CSystemSettings::loadSubAttributeString(const QDomElement& element)
+{
+    // By name, in a fixed order: a node map has a random one, and walking it takes quadratic time.
+    for (auto name = m_attrStrMap.cbegin(); name != m_attrStrMap.cend(); ++name) {
+        if (element.hasAttribute(name.key()))
+            setAttribute(name.value(), profileValue(name.value(), element.attribute(name.key())), false);
+    }
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+        loadSubAttributeString(child);
+}

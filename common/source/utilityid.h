@@ -1,8 +1,8 @@
 #pragma once
 
 /**
- * Every utility: built-in pages and plug-ins. UTILITY_ID_BEGIN stands for the home page. The desktop file's "id"
- * values use the same numbers.
+ * Every utility: built-in pages and plug-ins. UTILITY_ID_BEGIN stands for the home page. The desktop file's
+ * "id" values use the same numbers.
  */
 enum UtilityID {
     UTILITY_ID_BEGIN = 65535,
