@@ -65,6 +65,19 @@ def environment(source, build, runtime, has_screen):
     return result
 
 
+def stop_all(build):
+    """Ends what launch() started and removes the segment, where no namespace does it."""
+    for name in os.listdir(RUN) if os.path.isdir(RUN) else ():
+        if name.endswith(".pid"):
+            with open(os.path.join(RUN, name), encoding="ascii") as stream:
+                try:
+                    os.kill(int(stream.read()), signal.SIGKILL)
+                except (ProcessLookupError, ValueError):
+                    pass
+    tool = os.path.join(build, "simulator/globalsegment")
+    os.waitpid(os.posix_spawn(tool, [tool, "remove"], os.environ), 0)
+
+
 class Services:
     """Starts the parts of one profile side by side and waits until each says that it is ready."""
 

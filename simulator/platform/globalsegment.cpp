@@ -3,6 +3,7 @@
  *
  *   globalsegment create [SIZE]   makes the segment, SIZE bytes (1024 without one), all zero but for the magic mark
  *   globalsegment show            prints the settings in it, one "name value" a line
+ *   globalsegment remove          gives the segment back, where no namespace of its own does so
  */
 #include <cerrno>
 #include <cstdint>
@@ -75,6 +76,12 @@ int create(key_t key, std::size_t size)
     return 0;
 }
 
+int remove(key_t key)
+{
+    const int id = shmget(key, 0, 0);
+    return id < 0 || shmctl(id, IPC_RMID, nullptr) == 0 ? 0 : failed("cannot remove the segment");
+}
+
 int show(key_t key)
 {
     const int id = shmget(key, 0, 0);
@@ -117,6 +124,8 @@ int main(int argc, char **argv)
     }
     if (argc == 2 && std::strcmp(argv[1], "show") == 0)
         return show(key);
-    std::fprintf(stderr, "usage: globalsegment create [SIZE] | show\n");
+    if (argc == 2 && std::strcmp(argv[1], "remove") == 0)
+        return remove(key);
+    std::fprintf(stderr, "usage: globalsegment create [SIZE] | show | remove\n");
     return 2;
 }
