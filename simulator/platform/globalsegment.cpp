@@ -64,7 +64,12 @@ int failed(const char *what)
 
 int create(key_t key, std::size_t size)
 {
-    const int id = shmget(key, size, IPC_CREAT | 0666);
+    int id = shmget(key, size, IPC_CREAT | 0666);
+    if (id == 0) {
+        // The first identifier of a fresh namespace, which the shell takes for none. The next one is another.
+        shmctl(id, IPC_RMID, nullptr);
+        id = shmget(key, size, IPC_CREAT | 0666);
+    }
     if (id < 0)
         return failed("cannot make the segment");
     void *const block = shmat(id, nullptr, 0);
