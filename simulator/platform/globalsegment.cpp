@@ -1,9 +1,9 @@
 /*
  * Owner of the global settings segment: makes it as the platform does at power-on, and shows what is in it.
  *
- *   globalsegment create [SIZE]   makes the segment, SIZE bytes (1024 without one), all zero but for the magic mark
- *   globalsegment show            prints the settings in it, one "name value" a line
- *   globalsegment remove          gives the segment back, where no namespace of its own does so
+ *   globalsegment create [SIZE]   makes the segment, SIZE bytes (1024 without one), all zero but for the
+ * magic mark globalsegment show            prints the settings in it, one "name value" a line globalsegment
+ * remove          gives the segment back, where no namespace of its own does so
  */
 #include <cerrno>
 #include <cstdint>
@@ -22,7 +22,7 @@ constexpr std::uint32_t MagicMark = 0x4F565241; // "ARVO"
 
 struct Field
 {
-    const char *name;
+    const char* name;
     std::size_t offset;
 };
 
@@ -56,7 +56,7 @@ constexpr Field Fields[] = {
 constexpr std::size_t PrefixOffset = 16;
 constexpr std::size_t PrefixSize = 64;
 
-int failed(const char *what)
+int failed(const char* what)
 {
     std::fprintf(stderr, "globalsegment: %s: %s\n", what, std::strerror(errno));
     return 1;
@@ -72,8 +72,8 @@ int create(key_t key, std::size_t size)
     }
     if (id < 0)
         return failed("cannot make the segment");
-    void *const block = shmat(id, nullptr, 0);
-    if (block == reinterpret_cast<void *>(-1))
+    void* const block = shmat(id, nullptr, 0);
+    if (block == reinterpret_cast<void*>(-1))
         return failed("cannot attach the segment");
     if (size >= sizeof MagicMark)
         std::memcpy(block, &MagicMark, sizeof MagicMark);
@@ -95,12 +95,12 @@ int show(key_t key)
     shmid_ds state;
     if (shmctl(id, IPC_STAT, &state) != 0)
         return failed("cannot ask for the segment's size");
-    const void *const attached = shmat(id, nullptr, SHM_RDONLY);
-    if (attached == reinterpret_cast<void *>(-1))
+    const void* const attached = shmat(id, nullptr, SHM_RDONLY);
+    if (attached == reinterpret_cast<void*>(-1))
         return failed("cannot attach the segment");
-    const char *const block = static_cast<const char *>(attached);
+    const char* const block = static_cast<const char*>(attached);
     std::printf("size %zu\n", state.shm_segsz);
-    for (const Field &field : Fields) {
+    for (const Field& field : Fields) {
         std::int32_t value = 0;
         if (field.offset + sizeof value > state.shm_segsz)
             break;
@@ -114,7 +114,7 @@ int show(key_t key)
 
 } // namespace
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     const key_t key = ftok(KeyFile, ProjectId);
     if (key == -1)
