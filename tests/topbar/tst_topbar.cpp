@@ -1,0 +1,464 @@
+#include "appfeatureheader.h"
+#include "appstatusindicator.h"
+#include "breadcrumb.h"
+#include "sigtransfer.h"
+#include "topbar.h"
+#include "widgets/statusicon/statusicon.h"
+#include "widgets/widgetstyle/widgetstyle.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+/** The widget alone, on a transparent ground. */
+QImage rendered(QWidget* widget, bool withBackground = false)
+{
+    QImage image(widget->size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    widget->render(&image, QPoint(), QRegion(),
+        withBackground ? QWidget::DrawWindowBackground | QWidget::DrawChildren : QWidget::RenderFlags());
+    return image;
+}
+
+QImage slice(const char* strip, int x, int y)
+{
+    QImage image(60, 60, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter(&image).drawPixmap(0, 0, QPixmap(QLatin1String(strip)), x, y, 60, 60);
+    return image;
+}
+
+WIFIStatus wifiRecord(bool plugged, bool connected, int strength)
+{
+    WIFIStatus status;
+    status.bIsPlugged = plugged;
+    status.bIsConnected = connected;
+    status.signalStrength = strength;
+    return status;
+}
+
+/** Counts the paint events of a widget and of all below it. */
+class CPaintCounter : public QObject
+{
+public:
+    explicit CPaintCounter(QWidget* root)
+    {
+        root->installEventFilter(this);
+        for (QWidget* child : root->findChildren<QWidget*>())
+            child->installEventFilter(this);
+    }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++count;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+/** The part of the header where texts may stand. */
+const QRect TEXT_AREA(22, 10, 452, 40);
+
+bool isPlateOnly(const QImage& image, const QRect& area)
+{
+    const QRgb plate = CWidgetStyle::getColor(CWidgetStyle::ColorPlate).rgb();
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if (image.pixel(x, y) != plate)
+                return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+class TestTopBar : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void placesItsParts();
+    void iconSizeHoldsFromTheNextLayout();
+    void showsOnlyHomeAndClose_data();
+    void showsOnlyHomeAndClose();
+    void buttonPictures_data();
+    void buttonPictures();
+    void wifiButton_data();
+    void wifiButton();
+    void unchangedWifiRecordCostsNoRepaint();
+    void forwardsSignals_data();
+    void forwardsSignals();
+    void followsTheRelay();
+    void splitsSteps_data();
+    void splitsSteps();
+    void separatorGeometry();
+    void leavesOutFirstSteps();
+    void textStaysOnItsPlate_data();
+    void textStaysOnItsPlate();
+    void paintsChevrons();
+};
+
+void TestTopBar::placesItsParts()
+{
+    CTopBar bar;
+    bar.ensurePolished();
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    QCOMPARE(bar.size(), QSize(800, 60));
+    QCOMPARE(bar.findChild<CAppFeatureHeader*>()->geometry(), QRect(0, 0, 500, 60));
+    QCOMPARE(bar.getAppStateInidcator()->geometry(), QRect(500, 0, 300, 60));
+    QCOMPARE(bar.findChild<CStatusIcon*>(QStringLiteral("closeButton"))->geometry(), QRect(236, 0, 60, 60));
+    QCOMPARE(bar.findChild<CStatusIcon*>(QStringLiteral("homeButton"))->geometry(), QRect(176, 0, 60, 60));
+    QCOMPARE(
+        bar.findChild<CStatusIcon*>(QStringLiteral("wifiWizardButton"))->geometry(), QRect(116, 0, 60, 60));
+    // Without texts and buttons the bar is one colour.
+    const QImage image = rendered(&bar, true);
+    QCOMPARE(image.pixelColor(250, 30), QColor(181, 199, 239));
+    QCOMPARE(image.pixelColor(799, 0), QColor(181, 199, 239));
+}
+
+void TestTopBar::iconSizeHoldsFromTheNextLayout()
+{
+    CAppStatusIndicator indicator;
+    indicator.show();
+    auto* home = indicator.findChild<CStatusIcon*>(QStringLiteral("homeButton"));
+    const QRect before = home->geometry();
+    indicator.setIconSize(48, 40);
+    QCOMPARE(home->geometry(), before);
+    indicator.setFixedSize(260, 60);
+    QCOMPARE(home->geometry(), QRect(260 - 1 - 3 - 2 * 48, 0, 48, 40));
+}
+
+void TestTopBar::showsOnlyHomeAndClose_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("home");
+    QTest::addColumn<bool>("close");
+    QTest::newRow("close") << int(StatusClose) << false << true;
+    QTest::newRow("home") << int(StatusHome) << true << false;
+    QTest::newRow("power") << int(StatusPower) << false << false;
+    QTest::newRow("storage") << int(StatusStorage) << false << false;
+    QTest::newRow("lock") << int(StatusUILock) << false << false;
+    QTest::newRow("none") << int(StatusNone) << false << false;
+}
+
+void TestTopBar::showsOnlyHomeAndClose()
+{
+    QFETCH(int, type);
+    CAppStatusIndicator indicator;
+    QWidget* home = indicator.findChild<CStatusIcon*>(QStringLiteral("homeButton"));
+    QWidget* close = indicator.findChild<CStatusIcon*>(QStringLiteral("closeButton"));
+    QVERIFY(home->isHidden() && close->isHidden());
+    indicator.setStatusVisible(StatusType(type), true);
+    QTEST(!home->isHidden(), "home");
+    QTEST(!close->isHidden(), "close");
+    indicator.setStatusVisible(StatusType(type), false);
+    QVERIFY(home->isHidden() && close->isHidden());
+}
+
+void TestTopBar::buttonPictures_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QByteArray>("strip");
+    QTest::newRow("home") << QStringLiteral("homeButton") << QByteArray(":/images/TB_HOME_3states.png");
+    QTest::newRow("close") << QStringLiteral("closeButton") << QByteArray(":/images/TB_close_3states.png");
+}
+
+void TestTopBar::buttonPictures()
+{
+    QFETCH(QString, button);
+    QFETCH(QByteArray, strip);
+    CAppStatusIndicator indicator;
+    auto* icon = indicator.findChild<CStatusIcon*>(button);
+    QCOMPARE(rendered(icon), slice(strip.constData(), 0, 0));
+    icon->setArrowKeyFocus(true);
+    QCOMPARE(rendered(icon), slice(strip.constData(), 120, 0));
+    icon->setDown(true);
+    QCOMPARE(rendered(icon), slice(strip.constData(), 60, 0));
+}
+
+void TestTopBar::wifiButton_data()
+{
+    QTest::addColumn<bool>("plugged");
+    QTest::addColumn<bool>("connected");
+    QTest::addColumn<int>("strength");
+    QTest::addColumn<int>("row"); // -1: hidden
+    QTest::newRow("no adapter") << false << false << 0 << -1;
+    QTest::newRow("no adapter, stale link") << false << true << 90 << -1;
+    QTest::newRow("not connected") << true << false << 0 << 240;
+    QTest::newRow("not connected, strong") << true << false << 90 << 240;
+    const struct
+    {
+        int strength;
+        int row;
+    } limits[] = {{-7, 300}, {0, 300}, {1, 360}, {10, 360}, {11, 420}, {25, 420}, {26, 480}, {50, 480},
+        {51, 540}, {75, 540}, {76, 600}, {100, 600}};
+    for (const auto& limit : limits)
+        QTest::addRow("strength %d", limit.strength) << true << true << limit.strength << limit.row;
+}
+
+void TestTopBar::wifiButton()
+{
+    QFETCH(bool, plugged);
+    QFETCH(bool, connected);
+    QFETCH(int, strength);
+    QFETCH(int, row);
+    CAppStatusIndicator indicator;
+    auto* icon = indicator.findChild<CStatusIcon*>(QStringLiteral("wifiWizardButton"));
+    QVERIFY(icon->isHidden());
+    // Another row first, so that a change and a return from an unplugged adapter are seen too.
+    indicator.updateWifiWizStatus(wifiRecord(true, row != 600, 80));
+    indicator.updateWifiWizStatus(wifiRecord(false, false, 0));
+    indicator.updateWifiWizStatus(wifiRecord(plugged, connected, strength));
+    QCOMPARE(icon->isHidden(), row < 0);
+    if (row < 0)
+        return;
+    const char* const strip = ":/images/TB_WIFI_11states.png";
+    QCOMPARE(rendered(icon), slice(strip, 0, row));
+    icon->setArrowKeyFocus(true);
+    QCOMPARE(rendered(icon), slice(strip, 120, row));
+    icon->setDown(true);
+    QCOMPARE(rendered(icon), slice(strip, 60, row));
+}
+
+void TestTopBar::unchangedWifiRecordCostsNoRepaint()
+{
+    CTopBar bar;
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    CAppStatusIndicator* indicator = bar.getAppStateInidcator();
+    auto* icon = indicator->findChild<CStatusIcon*>(QStringLiteral("wifiWizardButton"));
+    CPaintCounter header(bar.findChild<CAppFeatureHeader*>());
+    CPaintCounter icons(indicator);
+
+    indicator->updateWifiWizStatus(wifiRecord(true, true, 60));
+    QTRY_VERIFY(icons.count > 0);
+    const QVariant picture = icon->extraAttribute(CPushButton::PressBackground);
+    // The header's paint shows that a repaint of the button would have come, too.
+    const auto paintHeader = [&bar, &header](const QString& text) {
+        header.count = 0;
+        bar.setNavigationText(text);
+        return QTest::qWaitFor([&header] { return header.count > 0; });
+    };
+    QVERIFY(paintHeader(QStringLiteral("Home")));
+    icons.count = 0;
+    for (int strength = 51; strength <= 75; ++strength)
+        indicator->updateWifiWizStatus(wifiRecord(true, true, strength));
+    QVERIFY(paintHeader(QStringLiteral("Home>Tools")));
+    QCOMPARE(icons.count, 0);
+    QCOMPARE(icon->extraAttribute(CPushButton::PressBackground).value<QPixmap>().cacheKey(),
+        picture.value<QPixmap>().cacheKey());
+
+    indicator->updateWifiWizStatus(wifiRecord(true, true, 76));
+    QTRY_VERIFY(icons.count > 0);
+
+    header.count = 0;
+    bar.setNavigationText(QStringLiteral("Home>Tools"));
+    icons.count = 0;
+    indicator->updateWifiWizStatus(wifiRecord(true, true, 1));
+    QTRY_VERIFY(icons.count > 0);
+    QCOMPARE(header.count, 0);
+}
+
+using BarSignal = void (CTopBar::*)();
+using IndicatorSignal = void (CAppStatusIndicator::*)();
+Q_DECLARE_METATYPE(BarSignal)
+Q_DECLARE_METATYPE(IndicatorSignal)
+
+void TestTopBar::forwardsSignals_data()
+{
+    QTest::addColumn<QString>("button"); // empty: no button emits it
+    QTest::addColumn<IndicatorSignal>("source");
+    QTest::addColumn<BarSignal>("target");
+    QTest::newRow("home") << "homeButton" << &CAppStatusIndicator::homeTriggered << &CTopBar::homeTriggered;
+    QTest::newRow("close") << "closeButton" << &CAppStatusIndicator::closeTriggered
+                           << &CTopBar::closeTriggered;
+    QTest::newRow("wifi") << "wifiWizardButton" << &CAppStatusIndicator::wifiWiziTriggered
+                          << &CTopBar::wifiWiziTriggered;
+    QTest::newRow("power") << QString() << &CAppStatusIndicator::powerTriggered << &CTopBar::powerTriggered;
+    QTest::newRow("storage") << QString() << &CAppStatusIndicator::storageTriggered
+                             << &CTopBar::storageTriggered;
+}
+
+void TestTopBar::forwardsSignals()
+{
+    QFETCH(QString, button);
+    QFETCH(IndicatorSignal, source);
+    QFETCH(BarSignal, target);
+    CTopBar bar;
+    CAppStatusIndicator* indicator = bar.getAppStateInidcator();
+    indicator->setStatusVisible(StatusHome, true);
+    indicator->setStatusVisible(StatusClose, true);
+    indicator->updateWifiWizStatus(wifiRecord(true, true, 60));
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+
+    QStringList seen;
+    connect(&bar, target, this, [&seen] { seen.append(QStringLiteral("wanted")); });
+    for (BarSignal other : {&CTopBar::homeTriggered, &CTopBar::closeTriggered, &CTopBar::powerTriggered,
+             &CTopBar::storageTriggered, &CTopBar::wifiWiziTriggered}) {
+        if (other != target)
+            connect(&bar, other, this, [&seen] { seen.append(QStringLiteral("other")); });
+    }
+    if (button.isEmpty())
+        emit(indicator->*source)();
+    else
+        QTest::mouseClick(indicator->findChild<CStatusIcon*>(button), Qt::LeftButton);
+    QCOMPARE(seen, QStringList(QStringLiteral("wanted")));
+}
+
+void TestTopBar::followsTheRelay()
+{
+    const auto relay = std::make_unique<CSigTransfer>();
+    g_pSigTransfer = relay.get();
+    CTopBar bar;
+    g_pSigTransfer = nullptr;
+    QWidget* wifi = bar.findChild<CStatusIcon*>(QStringLiteral("wifiWizardButton"));
+    emit relay->wifiStatusChanged(wifiRecord(true, false, 0));
+    QVERIFY(!wifi->isHidden());
+    emit relay->wifiStatusChanged(wifiRecord(false, false, 0));
+    QVERIFY(wifi->isHidden());
+
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    CPaintCounter paints(bar.getAppStateInidcator());
+    emit relay->lockStateChanged(true);
+    QTRY_VERIFY(paints.count > 0);
+    for (CStatusIcon* icon : bar.findChildren<CStatusIcon*>())
+        QVERIFY(icon->isHidden());
+}
+
+void TestTopBar::splitsSteps_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("steps");
+    const auto list = [](const char* joined) { return QString::fromLatin1(joined).split(QLatin1Char('|')); };
+    QTest::newRow("one") << "Home" << list("Home");
+    QTest::newRow("three") << "Home>Tools>IP Tools" << list("Home|Tools|IP Tools");
+    QTest::newRow("empty ones") << ">Home>>Date & Time>" << list("Home|Date & Time");
+    QTest::newRow("nothing") << QString() << QStringList();
+    QTest::newRow("separators only") << ">>" << QStringList();
+}
+
+void TestTopBar::splitsSteps()
+{
+    QFETCH(QString, text);
+    QTEST(breadcrumbSteps(text), "steps");
+}
+
+void TestTopBar::separatorGeometry()
+{
+    const QFontMetrics plain(CWidgetStyle::getFont(CWidgetStyle::FontNavigation));
+    const auto items = layoutBreadcrumb(
+        {QStringLiteral("Home"), QStringLiteral("Tools"), QStringLiteral("Advanced")}, 22, 474, plain, plain);
+    QCOMPARE(items.size(), 3);
+    QCOMPARE(items[0].x, 22);
+    QCOMPARE(items[0].width, plain.horizontalAdvance(QStringLiteral("Home")));
+    for (int i = 1; i < 3; ++i) {
+        const int end = items[i - 1].x + items[i - 1].width;
+        QCOMPARE(items[i].separator, BreadcrumbItem::Chevron);
+        QCOMPARE(items[i].chevronX, end + 8);
+        QCOMPARE(items[i].x, end + 8 + 4 + 4);
+        QCOMPARE(items[i].isCurrent, i == 2);
+    }
+}
+
+void TestTopBar::leavesOutFirstSteps()
+{
+    const QFontMetrics plain(CWidgetStyle::getFont(CWidgetStyle::FontNavigation));
+    const QString ellipsis(QChar(0x2026));
+    const QStringList steps{QStringLiteral("Home"), QStringLiteral("Tools"), QStringLiteral("Advanced"),
+        QStringLiteral("Optical Power Meter")};
+    const auto textsFor = [&](int right) {
+        QStringList texts;
+        const auto items = layoutBreadcrumb(steps, 10, right, plain, plain);
+        for (const BreadcrumbItem& item : items)
+            texts.append(item.text);
+        return texts;
+    };
+    const auto whole = layoutBreadcrumb(steps, 10, 2000, plain, plain);
+    const int end = whole.last().x + whole.last().width;
+    QCOMPARE(textsFor(end), steps);
+    QCOMPARE(textsFor(end - 1), QStringList(ellipsis) + steps.mid(1));
+
+    // Two marks, 6 pixels apart, stand where steps are missing, and only there.
+    const auto cut = layoutBreadcrumb(steps, 10, end - 1, plain, plain);
+    QCOMPARE(cut[1].separator, BreadcrumbItem::DoubleChevron);
+    QCOMPARE(cut[1].chevronX, cut[0].x + cut[0].width + 8);
+    QCOMPARE(cut[1].x, cut[1].chevronX + 6 + 4 + 4);
+    QCOMPARE(cut[2].separator, BreadcrumbItem::Chevron);
+
+    // However little room there is, nothing passes the right edge, and the last step goes last.
+    for (int right = 10; right < end; ++right) {
+        const auto items = layoutBreadcrumb(steps, 10, right, plain, plain);
+        if (items.isEmpty())
+            continue;
+        QVERIFY(items.last().x + items.last().width <= right);
+        QVERIFY(steps.last().startsWith(items.last().text.left(1)) || items.last().text == ellipsis);
+    }
+    QVERIFY(layoutBreadcrumb(steps, 10, 10, plain, plain).isEmpty());
+}
+
+void TestTopBar::textStaysOnItsPlate_data()
+{
+    QTest::addColumn<QString>("top");
+    QTest::addColumn<QString>("navigation");
+    QTest::newRow("short") << QString() << "Home";
+    QTest::newRow("title only") << "Optical Power Meter" << QString();
+    QTest::newRow("title and path") << "Optical Power Meter"
+                                    << "Home>Tools>Advanced";
+    QTest::newRow("endless title") << QString(80, QLatin1Char('W')) << "Home>Tools";
+    QTest::newRow("endless step") << QString() << QLatin1String("Home>") + QString(80, QLatin1Char('W'));
+    QTest::newRow("long German") << QString()
+                                 << QString::fromUtf8("Startseite>Dienstprogramme>Systemeinstellungen>"
+                                                      "Fernzugriffseinstellungen");
+    QTest::newRow("long Russian")
+        << QString::fromUtf8("Анализатор спектра")
+        << QString::fromUtf8("Главная>Инструменты>Дополнительные возможности>Измеритель оптической мощности");
+}
+
+void TestTopBar::textStaysOnItsPlate()
+{
+    QFETCH(QString, top);
+    QFETCH(QString, navigation);
+    CAppFeatureHeader header;
+    QCOMPARE(rendered(&header).pixelColor(200, 30).alpha(), 0); // no plate without text
+    header.setTopText(top);
+    header.setNavigationText(navigation);
+    const QImage image = rendered(&header);
+    QVERIFY(!isPlateOnly(image, TEXT_AREA));
+    // Margins of the plate on all sides, its rounded corners left out.
+    QVERIFY(isPlateOnly(image, QRect(16, 12, 4, 36)));
+    QVERIFY(isPlateOnly(image, QRect(476, 12, 4, 36)));
+    QVERIFY(isPlateOnly(image, QRect(16, 11, 464, 6)));
+    QVERIFY(isPlateOnly(image, QRect(16, 44, 464, 5)));
+    QCOMPARE(image.pixelColor(494, 30).alpha(), 0);
+}
+
+void TestTopBar::paintsChevrons()
+{
+    CAppFeatureHeader header;
+    header.setNavigationText(QStringLiteral("Home>Tools"));
+    const QImage image = rendered(&header);
+    const int end = 22
+        + QFontMetrics(CWidgetStyle::getFont(CWidgetStyle::FontNavigation))
+              .horizontalAdvance(QStringLiteral("Home"));
+    // From (8, -4) over (12, 0) to (8, 4), about the middle of the line and behind the text's end.
+    QCOMPARE(image.pixelColor(end + 10, 28), QColor(Qt::white));
+    QCOMPARE(image.pixelColor(end + 10, 31), QColor(Qt::white));
+    QVERIFY(image.pixelColor(end + 9, 29) != QColor(Qt::white)); // open towards the text
+    QVERIFY(isPlateOnly(image, QRect(end + 2, 20, 4, 20)));
+    QVERIFY(isPlateOnly(image, QRect(end + 8, 17, 6, 7)));
+    QVERIFY(isPlateOnly(image, QRect(end + 8, 36, 6, 7)));
+}
+
+QTEST_MAIN(TestTopBar)
+#include "tst_topbar.moc"
