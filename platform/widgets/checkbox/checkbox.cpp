@@ -13,6 +13,7 @@ constexpr int BoxSize = 24;
 constexpr int Gap = 10;
 constexpr int Margin = 8;
 constexpr int TileRadius = 6;
+constexpr int DisabledOpacity = 150; // of 255; paler, but still readable
 
 } // namespace
 
@@ -64,7 +65,7 @@ QColor CCheckBox::markColor() const
         ? currentTextColor()
         : textColorOr(CWidgetStyle::getColor(CWidgetStyle::ColorTextLight));
     if (!isEnabled())
-        color.setAlpha(115);
+        color.setAlpha(DisabledOpacity);
     return color;
 }
 

@@ -101,6 +101,7 @@ void CDialog::setBorderColor(int colorCode)
 void CDialog::setBorderWidth(int width)
 {
     m_frame.setBorderWidths(QMargins(width, width, width, width));
+    setContentsMargins(m_frame.borderWidths()); // layouts keep off the border
     update();
 }
 

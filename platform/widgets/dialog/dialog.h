@@ -28,8 +28,13 @@ public:
 
     void setBackgroundColor(const QColor& color);
     void setBackgroundColor(int colorCode);
+    void setBackgroundColor(Qt::GlobalColor color)
+    {
+        setBackgroundColor(QColor(color));
+    } // it is no colour code
     void setBorderColor(const QColor& color);
     void setBorderColor(int colorCode);
+    void setBorderColor(Qt::GlobalColor color) { setBorderColor(QColor(color)); }
     void setBorderWidth(int width);
     /** The dialog's rectangle without its border. */
     QRect innerRect() const;

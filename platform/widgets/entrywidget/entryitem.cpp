@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int PictureRoom = 56;
 constexpr int TextGap = 18;
 constexpr int SquareShade = 41; // black over the ground
 constexpr int PressedShade = 155; // as of QColor::darker
@@ -56,14 +55,13 @@ void CEntryItem::paintEvent(QPaintEvent*)
     painter.fillPath(tile, QColor(0, 0, 0, SquareShade));
     painter.setClipping(false);
 
-    const QRect place((height() - PictureRoom) / 2, (height() - PictureRoom) / 2, PictureRoom, PictureRoom);
-    CStylePainter::paintPicture(painter, place, m_picture, isEnabled() ? 1.0 : 0.4);
+    CStylePainter::paintPicture(painter, square, m_picture, isEnabled() ? 1.0 : 0.4);
     const int left = square.right() + 1 + TextGap;
     painter.setFont(textFont(CWidgetStyle::FontEntry));
     const QColor color = CWidgetStyle::getColor(
         isEnabled() ? CWidgetStyle::ColorTextLight : CWidgetStyle::ColorTextDisabled);
     CStylePainter::paintText(painter, QRect(left, 6, width() - left - TextGap / 2, height() - 12),
-        Qt::AlignLeft | Qt::AlignVCenter, text(), textColorOr(color), true);
+        Qt::AlignLeft | Qt::AlignVCenter, text(), textColorOr(color), true, true);
     if (isDown()) {
         CStylePainter::paintPlate(painter, rect(), radius, QColor(0, 0, 0, 0),
             CWidgetStyle::getColor(CWidgetStyle::ColorAccent), 2);

@@ -22,8 +22,13 @@ public:
      * nothing. */
     void setBackgroundColor(const QColor& color);
     void setBackgroundColor(int colorCode);
+    void setBackgroundColor(Qt::GlobalColor color)
+    {
+        setBackgroundColor(QColor(color));
+    } // it is no colour code
     void setBorderColor(const QColor& color);
     void setBorderColor(int colorCode);
+    void setBorderColor(Qt::GlobalColor color) { setBorderColor(QColor(color)); }
 
     /** Picture drawn at the top-left corner over the background colour; a null picture removes it. @return
      * whether it changed */

@@ -18,6 +18,7 @@ public:
     QString text() const { return m_text; }
     void setTextColor(const QColor& color);
     void setTextColor(int colorCode);
+    void setTextColor(Qt::GlobalColor color) { setTextColor(QColor(color)); } // it is no colour code
     /** Pixel size; 0 takes the theme's, or that of setFont(). */
     void setTextSize(int pixels);
     void setBold(bool bold);

@@ -206,7 +206,8 @@ void CPushButton::paintGround(QPainter& painter) const
 
 void CPushButton::paintFocusMarker(QPainter& painter, int radius) const
 {
-    if (m_arrowKeyFocus)
+    // A select picture is a marker itself; a frame around it would be a second one.
+    if (m_arrowKeyFocus && m_grounds.value(SelectBackground).picture.isNull())
         CStylePainter::paintFocusMarker(painter, rect(), radius);
 }
 

@@ -50,7 +50,8 @@ public:
     /** Pixel size of the text; 0 takes the theme's, or that of setFont(). */
     void setTextSize(int pixels);
 
-    /** The arrow-key focus marker: SelectBackground if there is one, and a frame in the accent colour. */
+    /** The arrow-key focus marker: the SelectBackground picture if there is one, else a frame in the accent
+     * colour. */
     virtual void setArrowKeyFocus(bool on);
     bool hasArrowKeyFocus() const { return m_arrowKeyFocus; }
 

@@ -2,6 +2,7 @@
 
 #include "widgets/widgetstyle/widgetstyle.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace {
@@ -96,6 +97,14 @@ void CToolBox::updateWidgetStyle()
 {
     layoutRows();
     CWidget::updateWidgetStyle();
+}
+
+bool CToolBox::event(QEvent* event)
+{
+    // The border has changed.
+    if (event->type() == QEvent::ContentsRectChange)
+        layoutRows();
+    return CWidget::event(event);
 }
 
 void CToolBox::paintEvent(QPaintEvent* event)

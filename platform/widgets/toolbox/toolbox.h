@@ -45,6 +45,7 @@ public slots:
     void updateWidgetStyle() override;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

@@ -77,7 +77,8 @@ private:
             m_swallowing = inside;
         if (m_swallowing) {
             // The whole touch is dropped with its press, wherever it goes and even if the region is lifted.
-            if (event->type() == QEvent::MouseButtonRelease && event->buttons() == Qt::NoButton)
+            if (event->type() == QEvent::MouseButtonRelease
+                && (event->buttons() & ~Qt::MouseButtons(event->button())) == 0)
                 m_swallowing = false;
             return drop(event, true);
         }

@@ -59,8 +59,10 @@ void CWidget::setBorderWidth(int left, int top, int right, int bottom)
 {
     const QMargins before = m_frame.borderWidths();
     m_frame.setBorderWidths(QMargins(left, top, right, bottom));
-    if (before != m_frame.borderWidths())
-        update();
+    if (before == m_frame.borderWidths())
+        return;
+    setContentsMargins(m_frame.borderWidths()); // layouts keep off the border
+    update();
 }
 
 QRect CWidget::innerRect() const

@@ -31,10 +31,16 @@ public:
 
     void setBackgroundColor(const QColor& color);
     void setBackgroundColor(int colorCode);
+    void setBackgroundColor(Qt::GlobalColor color)
+    {
+        setBackgroundColor(QColor(color));
+    } // it is no colour code
     void setBackgroundImage(const QPixmap& picture);
     void setBorderColor(const QColor& color);
     void setBorderColor(int colorCode);
-    /** Border width in pixels: all four sides, or left, top, right, bottom. */
+    void setBorderColor(Qt::GlobalColor color) { setBorderColor(QColor(color)); }
+    /** Border width in pixels: all four sides, or left, top, right, bottom. A layout's items keep off the
+     * border. */
     void setBorderWidth(int width);
     void setBorderWidth(int left, int top, int right, int bottom);
     const CFrameStyle& frameStyle() const { return m_frame; }

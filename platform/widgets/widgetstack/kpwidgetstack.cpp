@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 KpWidgetStack* KpWidgetStack::instance()
 {
     static QPointer<KpWidgetStack> stack;
@@ -55,10 +57,13 @@ int KpWidgetStack::count() const
     return m_pages.size();
 }
 
-void KpWidgetStack::dropDeleted()
+void KpWidgetStack::dropDeleted(QObject* gone)
 {
-    const bool topWent = !m_pages.isEmpty() && m_pages.last().isNull();
-    m_pages.removeAll(QPointer<QWidget>());
+    // A widget tells of its end before its guarded pointers are cleared.
+    const auto isGone
+        = [gone](const QPointer<QWidget>& page) { return page.isNull() || page.data() == gone; };
+    const bool topWent = !m_pages.isEmpty() && isGone(m_pages.last());
+    m_pages.erase(std::remove_if(m_pages.begin(), m_pages.end(), isGone), m_pages.end());
     if (topWent)
         showTop();
 }

@@ -30,7 +30,7 @@ public:
 
 private:
     using QObject::QObject;
-    void dropDeleted();
+    void dropDeleted(QObject* gone);
     void showTop();
 
     QList<QPointer<QWidget>> m_pages;

@@ -66,11 +66,15 @@ QStringList wrapped(const QString& paragraph, const QFont& font, int width)
     return lines;
 }
 
-int widestLine(const QString& text, const QFontMetrics& metrics)
+// The widest piece that cannot be broken: a line, or a word where lines are wrapped.
+int widestPiece(const QString& text, const QFontMetrics& metrics, bool wrap)
 {
     int widest = 0;
-    for (const QString& line : text.split(QLatin1Char('\n')))
-        widest = std::max(widest, metrics.horizontalAdvance(line));
+    for (const QString& line : text.split(QLatin1Char('\n'))) {
+        const QStringList pieces = wrap ? line.split(QLatin1Char(' ')) : QStringList(line);
+        for (const QString& piece : pieces)
+            widest = std::max(widest, metrics.horizontalAdvance(piece));
+    }
     return widest;
 }
 
@@ -186,7 +190,7 @@ void CStylePainter::paintText(QPainter& painter, const QRect& rect, Qt::Alignmen
     QFont font = painter.font();
     if (shrink && font.pixelSize() > 0) {
         const int smallest = font.pixelSize() * 4 / 5;
-        while (font.pixelSize() > smallest && widestLine(text, QFontMetrics(font)) > rect.width())
+        while (font.pixelSize() > smallest && widestPiece(text, QFontMetrics(font), wrap) > rect.width())
             font.setPixelSize(font.pixelSize() - 1);
     }
     painter.setFont(font);

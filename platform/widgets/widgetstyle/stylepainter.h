@@ -40,7 +40,7 @@ public:
     static QStringList textLines(const QString& text, const QFont& font, int width, int maxLines, bool wrap);
     /**
      * Draws a text inside `rect` in the painter's font and `color`. With `shrink`, a text that is too wide is
-     * drawn up to a fifth smaller before it is elided.
+     * drawn up to a fifth smaller before it is elided or broken inside a word.
      */
     static void paintText(QPainter& painter, const QRect& rect, Qt::Alignment alignment, const QString& text,
         const QColor& color, bool wrap = false, bool shrink = false);
