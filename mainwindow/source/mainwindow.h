@@ -6,6 +6,7 @@
 #include "utilityid.h"
 #include "widgets/widget/widget.h"
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QPointer>
 
@@ -45,6 +46,8 @@ class CMainWindow : public CWidget
 public:
     enum VisibleReason { TestAppForeground = 0, TestAppBackground = 1, OtherReason = 2 };
     enum TestAppAction { ActionLoad = 0, ActionRelease = 1, ActionNone = 2 };
+    enum DetectDirection { DetectLeft = 0, DetectUp = 1, DetectRight = 2, DetectDown = 3 };
+    enum DetectType { LinearDetect = 0, RadialDetect = 1, NoDetect = 2 };
     enum NonInteractiveRegionType {
         FullScreen = 0,
         ExcludeBottomBar = 1,
@@ -193,7 +196,9 @@ private:
 
     QTranslator* m_pTrans = nullptr;
     std::unique_ptr<CMenuStack> m_pMenuStack;
-    QPointer<QWidget> m_pPrevFocusWidget;
+    QPointer<QWidget> m_pPrevFocusWidget; // carries the focus marker
+    QElapsedTimer m_keyEventTime; // since the last key press seen
+    int m_arrowKeyStepLen = 50; // pixels of one search step
 
     CTopBar* m_pTopBar = nullptr;
     CToolBox* m_pToolBox = nullptr;

@@ -1,8 +1,6 @@
-// The region of the screen that takes no touches, and the focus marker.
+// The region of the screen that takes no touches.
 
 #include "mainwindow.h"
-
-#include "widgets/pushbutton/pushbutton.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -51,21 +49,4 @@ void CMainWindow::setNonInteractiveRegion(NonInteractiveRegionType type, const Q
         break;
     }
     qApp->setProperty("NonInteractiveRegion", m_nonInteractiveRegion);
-}
-
-void CMainWindow::setWidgetFocus(QObject* widget, bool on)
-{
-    if (!widget)
-        qDebug("Can not set NULL widget focus.");
-    else if (auto* control = qobject_cast<CWidget*>(widget))
-        control->setArrowKeyFocus(on);
-    else if (auto* button = qobject_cast<CPushButton*>(widget))
-        button->setArrowKeyFocus(on);
-}
-
-void CMainWindow::clearFocusWidget()
-{
-    if (m_pPrevFocusWidget)
-        setWidgetFocus(m_pPrevFocusWidget, false);
-    m_pPrevFocusWidget = nullptr;
 }

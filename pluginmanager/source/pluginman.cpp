@@ -1,1 +1,172 @@
+#include "pluginman.h"
 
+#include "utilinterface.h"
+
+#include <QPluginLoader>
+
+namespace {
+
+struct PluginRow
+{
+    UtilityID id;
+    const char* library;
+    const char* name; // display name, may be empty
+};
+
+constexpr PluginRow PLUGINS[] = {
+    {UTILITY_ID_IP_TOOLS, "libIPtool.so", QT_TRANSLATE_NOOP("CPluginManager", "IP Tools")},
+    {UTILITY_ID_NET_WIZARD, "libnetwiz.so", QT_TRANSLATE_NOOP("CPluginManager", "Network Wizard")},
+    {UTILITY_ID_WIFI_WIZARD, "libwifiwiz.so", QT_TRANSLATE_NOOP("CPluginManager", "WIFI Wizard")},
+    {UTILITY_ID_BROWSER, "libwebbrowser.so", QT_TRANSLATE_NOOP("CPluginManager", "Web Browser")},
+    {UTILITY_ID_BACKLIGHT, "libsettingBacklight.so", QT_TRANSLATE_NOOP("CPluginManager", "Backlight")},
+    {UTILITY_ID_RESULT_MANAGER, "libresultman.so", QT_TRANSLATE_NOOP("CPluginManager", "Result Manager")},
+    {UTILITY_ID_FIBERSCOPE, "libFiberScope.so", QT_TRANSLATE_NOOP("CPluginManager", "Fiber Scope")},
+    {UTILITY_ID_WIFI_SA, "libwsa.so", QT_TRANSLATE_NOOP("CPluginManager", "WIFI SA")},
+    // The clock source page is served under the identifier of the GPS data card.
+    {UTILITY_ID_DATACARD_GPS, "libhighPrecisionClockSource.so", ""},
+    {UTILITY_ID_DATACARD_3G, "libdataCard.so", ""},
+    {UTILITY_ID_SIGNATURE_PAD, "libsignaturepad.so", QT_TRANSLATE_NOOP("CPluginManager", "Signature Pad")},
+    {UTILITY_ID_OPM, "libOpm.so", QT_TRANSLATE_NOOP("CPluginManager", "Optical Power Meter")},
+    {UTILITY_ID_ABOUT, "libsettingAbout.so", QT_TRANSLATE_NOOP("CPluginManager", "About")},
+    {UTILITY_ID_SCREEN, "libsettingscreen.so", QT_TRANSLATE_NOOP("CPluginManager", "Screen Calibration")},
+    {UTILITY_ID_BLUETOOTH, "libbluetooth.so", QT_TRANSLATE_NOOP("CPluginManager", "Bluetooth Settings")},
+    {UTILITY_ID_POWER, "libsettingPower.so", QT_TRANSLATE_NOOP("CPluginManager", "Power Settings")},
+    {UTILITY_ID_DATE_TIME, "libdateTime.so", QT_TRANSLATE_NOOP("CPluginManager", "Date & Time Settings")},
+    {UTILITY_ID_OSTREL, "libostrel.so", QT_TRANSLATE_NOOP("CPluginManager", "ostrel")},
+    {UTILITY_ID_HARBOR, "libharbor.so", QT_TRANSLATE_NOOP("CPluginManager", "Harbor")},
+    {UTILITY_ID_ODMTOOL, "libodmtool.so", ""},
+    {UTILITY_ID_WIFI_INSSDER, "libwifiinssider.so", QT_TRANSLATE_NOOP("CPluginManager", "WIFI inSSIDer")},
+    {UTILITY_ID_PCAP_MANAGER, "libpcapman.so", QT_TRANSLATE_NOOP("CPluginManager", "Pcap Manager")},
+    {UTILITY_ID_VFL, "libvfl.so", QT_TRANSLATE_NOOP("CPluginManager", "VFL")},
+};
+
+/** Plug-ins that may go on working without a page, in the order they are ended. */
+constexpr UtilityID BACKGROUND_PLUGINS[] = {UTILITY_ID_OSTREL, UTILITY_ID_IP_TOOLS};
+
+const PluginRow* findRow(UtilityID id)
+{
+    for (const PluginRow& row : PLUGINS) {
+        if (row.id == id)
+            return &row;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+CPluginManager::CPluginManager(QObject* parent)
+    : QObject(parent)
+    , m_pPluginLoader(new QPluginLoader(this))
+    , m_notAccomplishList({UTILITY_ID_NETWORK, UTILITY_ID_SCOPEX, UTILITY_ID_DATACARD_GPS})
+    , m_innerModule({UTILITY_ID_BEGIN, UTILITY_ID_ADVTOOL, UTILITY_ID_SETTINGS, UTILITY_ID_HELP,
+          UTILITY_ID_GLOBAL, UTILITY_ID_REMOTE_ACCESS, UTILITY_ID_SETTING_MORE, UTILITY_ID_USB_BROWSER,
+          UTILITY_ID_DISK_MANAGE, UTILITY_ID_END})
+{
+}
+
+QString CPluginManager::getPluginDirPath()
+{
+    return QStringLiteral("/usr/local/arvo/plugins");
+}
+
+QString CPluginManager::getPluginFileName(UtilityID id)
+{
+    const PluginRow* row = findRow(id);
+    if (!row) {
+        setError(tr("Invalid plugin ID."));
+        return {};
+    }
+    return QStringLiteral("%1/%2").arg(getPluginDirPath(), QString::fromLatin1(row->library));
+}
+
+QObject* CPluginManager::getPluginInstance(UtilityID id)
+{
+    m_pPluginLoader->setFileName(getPluginFileName(id));
+    return m_pPluginLoader->instance();
+}
+
+UtilInterface* CPluginManager::loadPlugin(UtilityID id)
+{
+    const QString fileName = getPluginFileName(id);
+    if (fileName.isEmpty())
+        return nullptr;
+    m_pPluginLoader->setFileName(fileName);
+    m_pCurPlugin = qobject_cast<UtilInterface*>(m_pPluginLoader->instance());
+    return m_pCurPlugin;
+}
+
+bool CPluginManager::isPluginLoaded() const
+{
+    return m_pCurPlugin && m_pPluginLoader->isLoaded();
+}
+
+bool CPluginManager::unloadPlugin()
+{
+    return isPluginLoaded() && m_pCurPlugin->stop();
+}
+
+bool CPluginManager::terminatePlugin()
+{
+    bool allLoaded = true;
+    for (const UtilityID id : BACKGROUND_PLUGINS) {
+        if (UtilInterface* plugin = loadPlugin(id))
+            plugin->terminate();
+        else
+            allLoaded = false;
+    }
+    return allLoaded;
+}
+
+void CPluginManager::updatePluginWindow()
+{
+    if (isPluginLoaded())
+        m_pCurPlugin->update();
+}
+
+void CPluginManager::setPluginWindowVisible(bool visible)
+{
+    if (!isPluginLoaded())
+        return;
+    if (visible)
+        m_pCurPlugin->show();
+    else
+        m_pCurPlugin->hide();
+}
+
+bool CPluginManager::hasSubPlugin(UtilityID id) const
+{
+    return id == UTILITY_ID_ADVTOOL;
+}
+
+bool CPluginManager::isPluginReleased(UtilityID id) const
+{
+    return !m_notAccomplishList.contains(id);
+}
+
+bool CPluginManager::isPlugin(UtilityID id) const
+{
+    return !m_innerModule.contains(id);
+}
+
+QString CPluginManager::getPluginName(UtilityID id) const
+{
+    const PluginRow* row = findRow(id);
+    return row && *row->name ? tr(row->name) : QString();
+}
+
+QString CPluginManager::errorString() const
+{
+    return bIsError ? m_errorString : m_pPluginLoader->errorString();
+}
+
+void CPluginManager::setError(const QString& text)
+{
+    bIsError = true;
+    m_errorString = text;
+}
+
+void CPluginManager::clearError()
+{
+    bIsError = false;
+    m_errorString.clear();
+}

@@ -1,0 +1,85 @@
+// What F4 does: locking the touch screen, or saving a screenshot.
+
+#include "mainwindow.h"
+
+#include "commutils.h"
+#include "systemsettings.h"
+#include "widgets/messagebox/messagebox.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QThread>
+
+namespace {
+
+constexpr unsigned long FOREGROUND_POLL = 200; // ms
+
+} // namespace
+
+void CMainWindow::lockScreen()
+{
+    CSystemSettings* settings = CSystemSettings::globalSettings();
+    if (settings->getAttribute(CSystemSettings::LockScreenORSaveScreen).toBool()) {
+        bIsUILocked = !bIsUILocked;
+        setScreenLocked(bIsUILocked);
+        emit lockStateChanged(bIsUILocked);
+    } else if (m_saveScreenCount < settings->getAttribute(CSystemSettings::SaveScreenMaxNum).toInt()) {
+        saveScreen();
+    } else {
+        reportScreenLimit();
+    }
+}
+
+void CMainWindow::saveScreen()
+{
+    QDir().mkpath(m_saveScreenDirPath);
+    const QString fileName
+        = QStringLiteral("%1/%2.png")
+              .arg(m_saveScreenDirPath,
+                  QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_hhmmss")));
+    const QPixmap picture = QGuiApplication::primaryScreen()->grabWindow(0);
+    // A full disk or a directory that cannot be written costs the picture and nothing else.
+    if (!picture.save(fileName, "PNG")) {
+        qWarning().noquote() << "Can not save the screen to" << fileName;
+        QFile::remove(fileName);
+    }
+    ++m_saveScreenCount; // attempts, not files
+}
+
+void CMainWindow::reportScreenLimit()
+{
+    if (CUICommUtils::isTestAppDlgPopup())
+        return;
+    // The box would come up under the test application, so the shell waits for the screen and does nothing
+    // else. The word that it has come back is the one thing let through.
+    while (m_winVisibleReason == TestAppForeground) {
+        QThread::msleep(FOREGROUND_POLL);
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+    CMessageBox box(tr("Error saving screen!"),
+        tr("Number of saved screenshots already reach\nor exceed maximum number allowed!"), CMessageBox::Ok,
+        this);
+    box.setTitleTextSize(20);
+    box.setMessageTextSize(16);
+    execBox(box);
+}
+
+void CMainWindow::setScreenLocked(bool locked)
+{
+    QFile mark(CUICommUtils::getLockScreenMarkFileName());
+    if (locked && !mark.exists()) {
+        if (!mark.open(QIODevice::ReadWrite))
+            qWarning().noquote() << "Can not create" << mark.fileName() << '-' << mark.errorString();
+    } else if (!locked && mark.exists()) {
+        mark.remove();
+    }
+    setNonInteractiveRegion(locked                    ? FullScreen
+            : m_winVisibleReason == TestAppForeground ? ExcludeBottomBar
+                                                      : RegionNone,
+        QRect());
+}

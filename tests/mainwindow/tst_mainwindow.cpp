@@ -1,0 +1,487 @@
+#include "advancemenu.h"
+#include "appfeatureheader.h"
+#include "appstatusindicator.h"
+#include "homepage.h"
+#include "mainwindow.h"
+#include "settingmoremenu.h"
+#include "sigtransfer.h"
+#include "startutilwindow.h"
+#include "switchappwindow.h"
+#include "systemsettings.h"
+#include "systemsettingsmenu.h"
+#include "topbar.h"
+#include "widgets/entrywidget/entrywidget.h"
+#include "widgets/messagebox/messagebox.h"
+#include "widgets/statusicon/statusicon.h"
+#include "widgets/toolbox/toolbox.h"
+#include "widgets/toolbox/toolboxbutton.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+#include <QX11Info>
+
+#include <atomic>
+#include <thread>
+
+#include "boxanswer.h"
+#include "xscreen.h"
+
+#include <X11/Xatom.h>
+
+#undef None
+#undef Bool
+#undef Status
+
+namespace {
+
+const QString PLUGIN_DIR = QStringLiteral("/usr/local/arvo/plugins/");
+const QString PLUGIN_LOG = QStringLiteral("/tmp/fixture-plugin.log");
+
+QStringList pluginCalls()
+{
+    QFile file(PLUGIN_LOG);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+void installFixture(const char* fixture, const QString& libraryName)
+{
+    QFile::remove(PLUGIN_DIR + libraryName);
+    const QString from = QStringLiteral(FIXTURE_DIR "/") + QLatin1String(fixture);
+    QVERIFY2(QFile::copy(from, PLUGIN_DIR + libraryName), qPrintable(from));
+}
+
+} // namespace
+
+/** The main window on a real X screen, driven as a person drives it. */
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+
+    void firstFrameIsOnTheScreenBeforeTheLaunchBlocks();
+    void toolBoxAsBuilt();
+    void defaultsAreInTheStore();
+    void applicationIndexIsMarked();
+
+    void menuItemsAndCaption();
+    void menuTileOffersClose();
+    void closeStepsBackThroughThePath();
+    void sameItemTwiceIsOneStep();
+    void unavailableUtilityKeepsThePage();
+    void identifierOutOfRangeIsIgnored();
+
+    void usbWithoutDriveGoesHome();
+    void missingLibraryShowsTheLoadersText();
+    void calibrationNeedsConsent();
+
+    void pluginLifeCycle();
+    void closeOnSavedIsHome();
+    void failedStartIsReported();
+    void homeDuringTheWaitLoadsNothing();
+    void browserLocksInputForAWhile();
+
+    void testApplicationInFront();
+    void switchOverlay();
+    void relabelAfterLanguageChange();
+    void placement();
+
+private:
+    QString caption() const { return m_window->findChild<CAppFeatureHeader*>()->navigationText(); }
+    bool homeShown() const { return icon("homeButton")->isVisible(); }
+    bool closeShown() const { return icon("closeButton")->isVisible(); }
+    CStatusIcon* icon(const char* name) const
+    {
+        return m_window->findChild<CStatusIcon*>(QLatin1String(name));
+    }
+    void choose(int id)
+    {
+        for (auto* button : m_window->findChildren<CToolBoxButton*>()) {
+            if (button->id() == id) {
+                button->click();
+                return;
+            }
+        }
+        QFAIL("no such tool box item");
+    }
+    template <typename Page> Page* page() const { return m_window->findChild<Page*>(); }
+
+    std::unique_ptr<CMainWindow> m_window;
+    qint64 m_shownAt = -1; // ms on m_clock
+    qint64 m_launchedAt = -1;
+    QElapsedTimer m_clock;
+};
+
+void TestMainWindow::initTestCase()
+{
+    m_clock.start();
+    m_window = std::make_unique<CMainWindow>(nullptr);
+    m_window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    m_window->move(0, 0);
+
+    // Another connection watches the screen while this one builds it and then blocks.
+    std::atomic<bool> stop{false};
+    std::atomic<qint64> shownAt{-1};
+    std::thread watcher([&] {
+        const CXScreen screen;
+        const QColor bar(181, 199, 239);
+        while (!stop && shownAt < 0) {
+            if (screen.pixel({560, 2}) == bar && screen.pixel({160, 70}) == QColor(Qt::white)
+                && screen.pixel({80, 440}) != QColor(Qt::black))
+                shownAt = m_clock.elapsed();
+        }
+    });
+    m_window->show();
+    // Posted now, so it runs right after postLaunch() has given the loop back.
+    QTimer::singleShot(0, this, [this] { m_launchedAt = m_clock.elapsed(); });
+    QTRY_VERIFY_WITH_TIMEOUT(m_launchedAt >= 0, 10000);
+    stop = true;
+    watcher.join();
+    m_shownAt = shownAt;
+}
+
+void TestMainWindow::cleanupTestCase()
+{
+    m_window.reset();
+    QVERIFY(!g_pSigTransfer);
+}
+
+void TestMainWindow::init()
+{
+    m_window->triggerHome();
+    QFile::remove(PLUGIN_LOG);
+    for (const char* name : {"libIPtool.so", "libnetwiz.so", "libresultman.so", "libwebbrowser.so"})
+        QFile::remove(PLUGIN_DIR + QLatin1String(name));
+}
+
+void TestMainWindow::firstFrameIsOnTheScreenBeforeTheLaunchBlocks()
+{
+    QVERIFY(m_shownAt >= 0);
+    // The launch ends with two seconds of sleep: a frame that came after it began would be later than this.
+    QVERIFY2(m_launchedAt - m_shownAt >= 2000,
+        qPrintable(QStringLiteral("shown at %1, launched at %2").arg(m_shownAt).arg(m_launchedAt)));
+}
+
+void TestMainWindow::toolBoxAsBuilt()
+{
+    const auto* box = m_window->findChild<CToolBox*>();
+    QStringList rows;
+    for (int p = 0; p < box->pageCount(); ++p) {
+        rows << box->pageText(p);
+        for (int i = 0; i < box->itemCount(p); ++i)
+            rows << QLatin1Char(' ') + box->itemText(p, i);
+    }
+    QCOMPARE(rows.join(QLatin1Char('|')),
+        QStringLiteral("Tools| IP Tools| Net Wiz| WiFi Wiz| Advanced|"
+                       "Utilities| Settings| Backlight| Harbor|Files| Saved| USB| Capture"));
+    QCOMPARE(box->geometry(), QRect(0, 60, 160, 400));
+}
+
+void TestMainWindow::defaultsAreInTheStore()
+{
+    const CSystemSettings* settings = CSystemSettings::globalSettings();
+    QCOMPARE(settings->getAttribute(CSystemSettings::ACBrightness).toInt(), 63);
+    QCOMPARE(settings->getAttribute(CSystemSettings::BatteryBacklightTime).toInt(), 10);
+    QCOMPARE(settings->getAttribute(CSystemSettings::ClkSrc5).toString(), QStringLiteral("tcxo"));
+    QCOMPARE(settings->getAttribute(CSystemSettings::SaveScreenCompressLevel).toInt(), 65001);
+}
+
+void TestMainWindow::applicationIndexIsMarked()
+{
+    const auto marked = [this] {
+        const CXScreen screen;
+        Atom type = 0;
+        int format = 0;
+        unsigned long count = 0;
+        unsigned long rest = 0;
+        unsigned char* data = nullptr;
+        XGetWindowProperty(screen.display(), m_window->winId(),
+            XInternAtom(screen.display(), "_TAVOPROP_APPINDEX", False), 0, 32, False, XA_INTEGER, &type,
+            &format, &count, &rest, &data);
+        const long value = count == 1 && format == 32 ? *reinterpret_cast<long*>(data) : -1;
+        if (data)
+            XFree(data);
+        return int(value);
+    };
+    m_window->markAppIndex(1);
+    QCOMPARE(marked(), 1);
+    // A new X window starts with index 0.
+    const WId before = m_window->winId();
+    m_window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus);
+    m_window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    m_window->show();
+    QVERIFY(m_window->winId() != before);
+    QTRY_COMPARE(marked(), 0);
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void TestMainWindow::menuItemsAndCaption()
+{
+    QCOMPARE(caption(), QStringLiteral("Home"));
+    QVERIFY(!homeShown() && !closeShown());
+    choose(UTILITY_ID_ADVTOOL);
+    QVERIFY(page<CAdvanceMenu>()->isVisible());
+    QVERIFY(page<CHomePage>()->isHidden());
+    QCOMPARE(caption(), QStringLiteral("Home>Tools>Advanced"));
+    QVERIFY(homeShown() && !closeShown());
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_ADVTOOL);
+    choose(UTILITY_ID_SETTINGS);
+    QVERIFY(page<CAdvanceMenu>()->isHidden());
+    QVERIFY(page<CSystemSettingsMenu>()->isVisible());
+    icon("homeButton")->click();
+    QVERIFY(page<CHomePage>()->isVisible());
+    QVERIFY(page<CSystemSettingsMenu>()->isHidden());
+    QVERIFY(!homeShown());
+    QCOMPARE(m_window->findChild<CToolBox*>()->openPage(), -1);
+}
+
+void TestMainWindow::menuTileOffersClose()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libOpm.so"));
+    choose(UTILITY_ID_ADVTOOL);
+    page<CAdvanceMenu>()->findChild<CEntryWidget*>()->itemAt(2, 0)->click();
+    QCOMPARE(caption(), QStringLiteral("Home>Tools>Advanced>Optical Power Meter"));
+    QVERIFY(homeShown() && closeShown());
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    QFile::remove(PLUGIN_DIR + QStringLiteral("libOpm.so"));
+}
+
+void TestMainWindow::closeStepsBackThroughThePath()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libsettingPower.so"));
+    choose(UTILITY_ID_SETTINGS);
+    page<CSystemSettingsMenu>()->findChild<CEntryWidget*>()->itemAt(2, 0)->click();
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    icon("closeButton")->click();
+    QVERIFY(pluginCalls().contains(QStringLiteral("stop")));
+    QVERIFY(page<CSystemSettingsMenu>()->isVisible());
+    // The way back to the settings menu ends without buttons and with the caption of the home page.
+    QVERIFY(!homeShown() && !closeShown());
+    QCOMPARE(caption(), QStringLiteral("Home"));
+    m_window->triggerClose();
+    QVERIFY(page<CHomePage>()->isVisible());
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_BEGIN);
+    m_window->triggerClose(); // nothing left to close
+    QVERIFY(page<CHomePage>()->isVisible());
+    QFile::remove(PLUGIN_DIR + QStringLiteral("libsettingPower.so"));
+}
+
+void TestMainWindow::sameItemTwiceIsOneStep()
+{
+    choose(UTILITY_ID_ADVTOOL);
+    choose(UTILITY_ID_ADVTOOL);
+    QVERIFY(page<CAdvanceMenu>()->isVisible());
+    m_window->triggerClose();
+    QVERIFY(page<CHomePage>()->isVisible());
+    QVERIFY(!homeShown());
+}
+
+void TestMainWindow::unavailableUtilityKeepsThePage()
+{
+    choose(UTILITY_ID_ADVTOOL);
+    emit g_pSigTransfer->currentUtilChanged(
+        UTILITY_ID_END); // counted among the built-in ones, and has no page
+    QVERIFY(page<CAdvanceMenu>()->isVisible());
+    QCOMPARE(caption(), QStringLiteral("Home>Tools>Advanced"));
+    QVERIFY(!closeShown());
+}
+
+void TestMainWindow::identifierOutOfRangeIsIgnored()
+{
+    choose(UTILITY_ID_ADVTOOL);
+    for (const int id : {-1, 0, UTILITY_ID_BEGIN - 1, UTILITY_ID_END + 1, INT_MAX})
+        m_window->changeCurrentUtil(id);
+    QVERIFY(page<CAdvanceMenu>()->isVisible());
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_ADVTOOL);
+}
+
+void TestMainWindow::usbWithoutDriveGoesHome()
+{
+    choose(UTILITY_ID_ADVTOOL);
+    CBoxAnswer box("ok");
+    choose(UTILITY_ID_USB_BROWSER);
+    QCOMPARE(box.title(), QStringLiteral("Error"));
+    QCOMPARE(box.text(), QStringLiteral("Cannot find USB drive attached to the unit!"));
+    QVERIFY(page<CHomePage>()->isVisible());
+    QVERIFY(!homeShown());
+}
+
+void TestMainWindow::missingLibraryShowsTheLoadersText()
+{
+    CBoxAnswer box("ok");
+    choose(UTILITY_ID_NET_WIZARD);
+    QVERIFY(m_window->findChild<CStartUtilWindow*>()->isVisible());
+    QCOMPARE(m_window->findChild<CStartUtilWindow*>()->message(), QStringLiteral("Network Wizard"));
+    QTRY_VERIFY(box.isAnswered());
+    QCOMPARE(box.title(), QStringLiteral("Load plugin"));
+    QVERIFY2(
+        box.text().contains(QStringLiteral("/usr/local/arvo/plugins/libnetwiz.so")), qPrintable(box.text()));
+    QVERIFY(m_window->findChild<CStartUtilWindow*>()->isVisible());
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_NET_WIZARD);
+    // The box stands in the working area, a little right of its centre.
+    QVERIFY(QRect(160, 60, 640, 400).contains(box.geometry()));
+    QCOMPARE(box.geometry().x(), 160 + 320 - box.geometry().width() / 2 + 4);
+}
+
+void TestMainWindow::calibrationNeedsConsent()
+{
+    choose(UTILITY_ID_ADVTOOL);
+    CBoxAnswer box("cancel");
+    m_window->changeCurrentUtil(UTILITY_ID_SCREEN);
+    QCOMPARE(box.title(), QStringLiteral("Warning"));
+    QCOMPARE(box.text(), QStringLiteral("Proceed with touch screen calibration?"));
+    QVERIFY(page<CAdvanceMenu>()->isVisible());
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_ADVTOOL);
+    QVERIFY(!closeShown());
+}
+
+void TestMainWindow::pluginLifeCycle()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libnetwiz.so"));
+    choose(UTILITY_ID_ADVTOOL);
+    choose(UTILITY_ID_NET_WIZARD);
+    QVERIFY(page<CAdvanceMenu>()->isHidden());
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    const QStringList started = pluginCalls();
+    QVERIFY(started.indexOf(QStringLiteral("setCallerID 65540")) >= 0);
+    QVERIFY(started.indexOf(QStringLiteral("setCallerID 65540")) < started.indexOf(QStringLiteral("start")));
+
+    choose(UTILITY_ID_NET_WIZARD); // already up
+    m_window->setWindowVisible(false);
+    m_window->setWindowVisible(true);
+    QCOMPARE(
+        pluginCalls().mid(started.size()), QStringList({QStringLiteral("hide"), QStringLiteral("show")}));
+
+    QObject* object = m_window->findChild<QWidget*>(QStringLiteral("fixturePage"));
+    QVERIFY(object);
+    const QPointer<QObject> pluginPage(object);
+    QVERIFY(QMetaObject::invokeMethod(object, "askToClose"));
+    QTRY_VERIFY(page<CHomePage>()->isVisible());
+    QVERIFY(!pluginPage);
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_BEGIN);
+}
+
+void TestMainWindow::closeOnSavedIsHome()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libresultman.so"));
+    choose(UTILITY_ID_ADVTOOL);
+    choose(UTILITY_ID_RESULT_MANAGER);
+    QVERIFY(homeShown() && closeShown());
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    icon("closeButton")->click();
+    QVERIFY(page<CHomePage>()->isVisible());
+    QVERIFY(!homeShown() && !closeShown());
+    QVERIFY(pluginCalls().contains(QStringLiteral("stop")));
+}
+
+void TestMainWindow::failedStartIsReported()
+{
+    installFixture("libfixture_failstart.so", QStringLiteral("libnetwiz.so"));
+    CBoxAnswer box("ok");
+    choose(UTILITY_ID_NET_WIZARD);
+    QTRY_VERIFY(box.isAnswered());
+    QCOMPARE(box.title(), QStringLiteral("Load plugin"));
+    QVERIFY(!box.text().isEmpty());
+    m_window->triggerHome();
+    QVERIFY(page<CHomePage>()->isVisible());
+}
+
+void TestMainWindow::homeDuringTheWaitLoadsNothing()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libnetwiz.so"));
+    choose(UTILITY_ID_NET_WIZARD);
+    m_window->triggerHome();
+    // Another utility that does start tells that the first one's turn has passed.
+    installFixture("libfixture_recorder.so", QStringLiteral("libresultman.so"));
+    QFile::remove(PLUGIN_LOG);
+    choose(UTILITY_ID_RESULT_MANAGER);
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    QCOMPARE(pluginCalls().count(QStringLiteral("start")), 1);
+}
+
+void TestMainWindow::browserLocksInputForAWhile()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libwebbrowser.so"));
+    const auto region = [] { return qApp->property("NonInteractiveRegion").toRect(); };
+    m_window->changeCurrentUtil(UTILITY_ID_BROWSER);
+    QCOMPARE(region(), QRect(0, 0, 800, 480));
+    QTRY_COMPARE_WITH_TIMEOUT(region(), QRect(), 5000);
+}
+
+void TestMainWindow::testApplicationInFront()
+{
+    choose(UTILITY_ID_SETTINGS);
+    emit m_window->windowVisibleChanged(false);
+    QVERIFY(m_window->isVisible());
+    QVERIFY(page<CTopBar>()->isHidden());
+    QVERIFY(page<CToolBox>()->isHidden());
+    QVERIFY(page<CSystemSettingsMenu>()->isHidden());
+    QVERIFY(!m_window->isNeedInteractive());
+    QVERIFY(!m_window->mask().isEmpty());
+    QVERIFY(!m_window->mask().intersects(QRect(0, 0, 800, 459)));
+    QTRY_COMPARE(CXScreen().pixel({400, 30}), QColor(Qt::black)); // the root window shows through
+
+    emit m_window->windowVisibleChanged(true);
+    QVERIFY(page<CTopBar>()->isVisible());
+    QVERIFY(page<CToolBox>()->isVisible());
+    QVERIFY(page<CSystemSettingsMenu>()->isVisible());
+    QVERIFY(m_window->isNeedInteractive());
+    QVERIFY(QRegion(m_window->rect()).subtracted(m_window->mask()).isEmpty());
+    QVERIFY(page<CSwitchAppWindow>()->isHidden()); // nothing is being loaded or released
+    QTRY_COMPARE(CXScreen().pixel({560, 2}), QColor(181, 199, 239));
+}
+
+void TestMainWindow::switchOverlay()
+{
+    auto* overlay = page<CSwitchAppWindow>();
+    QCOMPARE(overlay->geometry(), QRect(0, 60, 800, 400));
+    QVERIFY(overlay->isFinished());
+    overlay->start(QStringLiteral("Loading"));
+    QVERIFY(overlay->isVisible() && !overlay->isFinished());
+    const QImage withText = overlay->grab().toImage();
+    overlay->clearMessage();
+    const QImage without = overlay->grab().toImage();
+    // The message is in the lowest 114 pixels and nowhere else.
+    QCOMPARE(withText.copy(0, 0, 800, 280), without.copy(0, 0, 800, 280));
+    QVERIFY(withText.copy(0, 285, 800, 114) != without.copy(0, 285, 800, 114));
+    overlay->finish();
+    QVERIFY(overlay->isHidden() && overlay->isFinished());
+}
+
+void TestMainWindow::relabelAfterLanguageChange()
+{
+    m_window->translate();
+    const auto* box = page<CToolBox>();
+    QCOMPARE(box->itemText(2, 2), QStringLiteral("Manage"));
+    QCOMPARE(box->itemText(1, 2), QStringLiteral("Harbor"));
+    QCOMPARE(box->itemCount(0), 4);
+}
+
+void TestMainWindow::placement()
+{
+    QWidget widget;
+    widget.resize(101, 51);
+    m_window->moveToScreenCenter(&widget);
+    QCOMPARE(widget.pos(), QPoint(400 - 50 + 4, 260 - 25));
+    m_window->moveToWorkingAreaCenter(&widget);
+    QCOMPARE(widget.pos(), QPoint(480 - 50 + 4, 260 - 25));
+    m_window->moveToScreenCenter(nullptr);
+    QCOMPARE(CMainWindow::screenCenter(), QPoint(400, 240));
+    QCOMPARE(m_window->size(), QSize(800, 460));
+    CWidget framed;
+    m_window->moveToWorkingArea(&framed);
+    QCOMPARE(framed.geometry(), QRect(160, 60, 640, 400));
+    QCOMPARE(framed.innerRect(), QRect(0, 1, 639, 398));
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_mainwindow.moc"

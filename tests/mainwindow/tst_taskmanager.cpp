@@ -1,0 +1,146 @@
+#include "taskmanager.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+const QString MARK_DIR = QStringLiteral("/tmp/var/lib/vnc");
+const QString MARK_FILE = MARK_DIR + QStringLiteral("/srv-sessions");
+
+void writeMark(const QByteArray& content)
+{
+    QFile file(MARK_FILE);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(content);
+}
+
+} // namespace
+
+class TestTaskManager : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void startsOneUtility();
+    void laterRequestTakesThePlace();
+    void requestRightAfterTheSignalIsNotLost();
+    void sessionCount_data();
+    void sessionCount();
+    void missingMarkFileMeansNone();
+    void directoryChangeReportsTheCount();
+    void otherDirectoryIsIgnored();
+};
+
+void TestTaskManager::init()
+{
+    QDir().mkpath(MARK_DIR);
+    QFile::remove(MARK_FILE);
+}
+
+void TestTaskManager::startsOneUtility()
+{
+    CTaskManager manager(nullptr);
+    QSignalSpy started(&manager, &CTaskManager::utilStarted);
+    manager.startUtil(65537);
+    QVERIFY(started.isEmpty()); // the start window has its time first
+    QVERIFY(started.wait());
+    QCOMPARE(started.takeFirst().at(0).toInt(), 65537);
+    QTRY_VERIFY(manager.isFinished());
+    manager.startUtil(65538);
+    QVERIFY(started.wait());
+    QCOMPARE(started.takeFirst().at(0).toInt(), 65538);
+}
+
+void TestTaskManager::laterRequestTakesThePlace()
+{
+    CTaskManager manager(nullptr);
+    QSignalSpy started(&manager, &CTaskManager::utilStarted);
+    manager.startUtil(65537);
+    manager.startUtil(65544);
+    QVERIFY(started.wait());
+    QTRY_VERIFY(manager.isFinished());
+    QCOMPARE(started.size(), 1);
+    QCOMPARE(started.first().at(0).toInt(), 65544);
+}
+
+void TestTaskManager::requestRightAfterTheSignalIsNotLost()
+{
+    CTaskManager manager(nullptr);
+    QSignalSpy started(&manager, &CTaskManager::utilStarted);
+    // From the worker thread, at the moment the first signal goes out: the thread has not ended then.
+    QMetaObject::Connection once;
+    once = connect(
+        &manager, &CTaskManager::utilStarted, &manager,
+        [&](int id) {
+            if (id == 65537)
+                manager.startUtil(65545);
+        },
+        Qt::DirectConnection);
+    manager.startUtil(65537);
+    QTRY_COMPARE(started.size(), 2);
+    QCOMPARE(started.at(1).at(0).toInt(), 65545);
+    disconnect(once);
+}
+
+void TestTaskManager::sessionCount_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("count");
+    QTest::newRow("two") << QByteArray("2\n") << 2;
+    QTest::newRow("none") << QByteArray("0\n") << 0;
+    QTest::newRow("no line feed") << QByteArray("3") << 3;
+    QTest::newRow("first line only") << QByteArray("1\n7\n") << 1;
+    QTest::newRow("no number") << QByteArray("many\n") << 0;
+    QTest::newRow("empty") << QByteArray() << 0;
+    QTest::newRow("binary") << QByteArray("\0\xff\x01", 3) << 0;
+    QTest::newRow("one endless line") << QByteArray(1 << 20, '9') << 0;
+}
+
+void TestTaskManager::sessionCount()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(int, count);
+    writeMark(content);
+    CTaskManager manager(nullptr);
+    QCOMPARE(manager.isVNCClientAttached(), count >= 1);
+    QCOMPARE(manager.vncSessionCount(), count);
+}
+
+void TestTaskManager::missingMarkFileMeansNone()
+{
+    CTaskManager manager(nullptr);
+    writeMark("2\n");
+    QVERIFY(manager.isVNCClientAttached());
+    QFile::remove(MARK_FILE);
+    QVERIFY(!manager.isVNCClientAttached());
+    QCOMPARE(manager.vncSessionCount(), 0);
+}
+
+void TestTaskManager::directoryChangeReportsTheCount()
+{
+    CTaskManager manager(nullptr);
+    QSignalSpy changed(&manager, &CTaskManager::vncSessionChanged);
+    QFile written(MARK_DIR + QStringLiteral("/new"));
+    QVERIFY(written.open(QIODevice::WriteOnly));
+    written.write("1\n");
+    written.close();
+    QVERIFY(written.rename(MARK_FILE));
+    QTRY_VERIFY(!changed.isEmpty() && changed.last().at(0).toInt() == 1);
+    QFile::remove(MARK_FILE);
+    QTRY_COMPARE(changed.last().at(0).toInt(), 0);
+}
+
+void TestTaskManager::otherDirectoryIsIgnored()
+{
+    CTaskManager manager(nullptr);
+    QSignalSpy changed(&manager, &CTaskManager::vncSessionChanged);
+    manager.dirChanged(QStringLiteral("/tmp"));
+    QVERIFY(changed.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestTaskManager)
+#include "tst_taskmanager.moc"
