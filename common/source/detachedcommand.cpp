@@ -34,7 +34,15 @@ struct Launch
     int descriptorLimit;
 };
 
-// A pipe whose ends are never 0, 1 or 2, so that putting them into the standard places cannot overwrite one.
+// Moves a descriptor away from 0, 1 and 2 (which may be closed in this process), so that putting the
+// descriptors into their standard places overwrites none of them and takes the close-on-exec mark off.
+bool moveUp(CFileDescriptor& descriptor)
+{
+    if (descriptor.isValid() && descriptor.get() <= STDERR_FILENO)
+        descriptor.reset(::fcntl(descriptor.get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+    return descriptor.isValid();
+}
+
 bool openPipe(CFileDescriptor& readEnd, CFileDescriptor& writeEnd)
 {
     int ends[2];
@@ -42,15 +50,7 @@ bool openPipe(CFileDescriptor& readEnd, CFileDescriptor& writeEnd)
         return false;
     readEnd.reset(ends[0]);
     writeEnd.reset(ends[1]);
-    for (CFileDescriptor* end : {&readEnd, &writeEnd}) {
-        if (end->get() > STDERR_FILENO)
-            continue;
-        const int moved = ::fcntl(end->get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
-        if (moved < 0)
-            return false;
-        end->reset(moved);
-    }
-    return true;
+    return moveUp(readEnd) && moveUp(writeEnd);
 }
 
 QString findProgram(const QString& name)
@@ -143,8 +143,8 @@ bool CDetachedCommand::start(const QStringList& argv, Output output)
     CFileDescriptor reportRead, reportWrite, outputRead, outputWrite;
     if (!openPipe(reportRead, reportWrite) || (output == Output::Pipe && !openPipe(outputRead, outputWrite)))
         return fail(name, errno);
-    const CFileDescriptor null(::open("/dev/null", O_RDWR | O_CLOEXEC));
-    if (!null.isValid())
+    CFileDescriptor null(::open("/dev/null", O_RDWR | O_CLOEXEC));
+    if (!moveUp(null))
         return fail(name, errno);
     rlimit limit = {};
     ::getrlimit(RLIMIT_NOFILE, &limit);

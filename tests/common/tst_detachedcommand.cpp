@@ -1,0 +1,357 @@
+#include "childreaper.h"
+#include "commandlines.h"
+#include "testfiles.h"
+
+#include <QThread>
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+
+using Lines = QStringList;
+
+static QStringList shell(const char* script)
+{
+    return {"sh"_s, "-c"_s, QString::fromUtf8(script)};
+}
+
+static int openDescriptors()
+{
+    return QDir("/proc/self/fd"_s).entryList(QDir::Files | QDir::System).size();
+}
+
+static Lines linesOf(const QStringList& argv, int timeoutMs = 20000)
+{
+    Lines lines;
+    const bool started = readCommandLines(argv, timeoutMs, [&lines](const QString& line) {
+        lines << line;
+        return true;
+    });
+    if (!started)
+        return {"not started"_s};
+    return lines;
+}
+
+static bool isGroupGone(pid_t group)
+{
+    return ::kill(-group, 0) != 0 && errno == ESRCH;
+}
+
+class tst_DetachedCommand : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { REQUIRE_INSTRUMENT(); }
+    void cleanup();
+    void lines_data();
+    void lines();
+    void linesInPieces();
+    void startFailures_data();
+    void startFailures();
+    void environmentOfTheCommand();
+    void commandIsNoChild();
+    void missingStandardInput();
+    void discardedOutput();
+    void endsWhatIsNotWanted_data();
+    void endsWhatIsNotWanted();
+    void timeOutsUnderASteadyFlood();
+    void manyThreadsBesideTheReaper();
+    void keepsNoDescriptors();
+    void asynchronousLines();
+    void stop_data();
+    void stop();
+    void receiverMayRestart();
+    void receiverMayDestroy();
+    void destructorKills();
+};
+
+void tst_DetachedCommand::cleanup()
+{
+    QCOMPARE(::waitpid(-1, nullptr, WNOHANG), -1); // no child, ended or not, was left behind
+    QCOMPARE(errno, ECHILD);
+}
+
+void tst_DetachedCommand::lines_data()
+{
+    QTest::addColumn<QByteArray>("output");
+    QTest::addColumn<Lines>("expected");
+    const int limit = CLineSplitter::MaxLineLength;
+    QTest::newRow("nothing") << QByteArray() << Lines();
+    QTest::newRow("two lines") << QByteArray("a b\nc\n") << Lines{"a b"_s, "c"_s};
+    QTest::newRow("no line end at the end") << QByteArray("a\nb") << Lines{"a"_s, "b"_s};
+    QTest::newRow("empty lines") << QByteArray("\n\n") << Lines{""_s, ""_s};
+    QTest::newRow("carriage returns") << QByteArray("a\r\nb\rc\r\n") << Lines{"a"_s, "b\rc"_s};
+    QTest::newRow("text") << QByteArray("Gr\xc3\xb6\xc3\x9f"
+                                        "e\n")
+                          << Lines{QStringLiteral(u"Gr\u00F6\u00DFe")};
+    QTest::newRow("garbage") << QByteArray("\xff\x01\0z\n", 5) << Lines{QStringLiteral(u"\uFFFD\u0001\0z")};
+    QTest::newRow("a full line") << QByteArray(limit, 'x') + "\ny"
+                                 << Lines{QString(limit, QLatin1Char('x')), "y"_s};
+    QTest::newRow("longer than a line") << QByteArray(3 * limit + 7, 'x') + "\ny\n"
+                                        << Lines{QString(limit, QLatin1Char('x')), "y"_s};
+    QTest::newRow("many") << QByteArray("line\n").repeated(20000)
+                          << Lines(QVector<QString>(20000, "line"_s).toList());
+}
+
+void tst_DetachedCommand::lines()
+{
+    QFETCH(QByteArray, output);
+    QFETCH(Lines, expected);
+    const QString path = "/tmp/output"_s;
+    writeFile(path, output);
+    QCOMPARE(linesOf({"cat"_s, path}), expected);
+}
+
+void tst_DetachedCommand::linesInPieces()
+{
+    CLineSplitter splitter;
+    Lines lines;
+    for (const char byte : QByteArray("ab\r\n\xc3\xa4\nend"))
+        lines << splitter.feed(&byte, 1);
+    lines << splitter.finish() << splitter.finish();
+    QCOMPARE(lines, (Lines{"ab"_s, QStringLiteral(u"\u00E4"), "end"_s}));
+}
+
+void tst_DetachedCommand::startFailures_data()
+{
+    writeFile("/tmp/plain"_s, "text");
+    writeFile("/tmp/noexec"_s, "text");
+    QFile::setPermissions("/tmp/noexec"_s, QFile::ReadOwner | QFile::ExeOwner);
+    QTest::addColumn<QStringList>("argv");
+    QTest::addColumn<int>("error");
+    QTest::newRow("empty list") << QStringList() << ENOENT;
+    QTest::newRow("empty name") << QStringList{""_s} << ENOENT;
+    QTest::newRow("not in PATH") << QStringList{"no-such-program"_s} << ENOENT;
+    QTest::newRow("no such file") << QStringList{"/tmp/no-such-program"_s} << ENOENT;
+    QTest::newRow("directory") << QStringList{"/tmp"_s} << EACCES;
+    QTest::newRow("no program") << QStringList{"/tmp/plain"_s} << EACCES;
+    QTest::newRow("no format") << QStringList{"/tmp/noexec"_s} << ENOEXEC;
+    QTest::newRow("too long") << QStringList{"true"_s, QString(3000000, QLatin1Char('x'))} << E2BIG;
+}
+
+void tst_DetachedCommand::startFailures()
+{
+    QFETCH(QStringList, argv);
+    QFETCH(int, error);
+    const int before = openDescriptors();
+    CDetachedCommand command;
+    QVERIFY(!command.start(argv));
+    QVERIFY2(command.errorText().endsWith(QString::fromLocal8Bit(std::strerror(error))),
+        qPrintable(command.errorText()));
+    QCOMPARE(command.pid(), -1);
+    QCOMPARE(command.fd(), -1);
+    QVERIFY(!readCommandLines(argv, 1000, [](const QString&) { return true; }));
+    QCOMPARE(openDescriptors(), before);
+}
+
+void tst_DetachedCommand::environmentOfTheCommand()
+{
+    // What this process has must not reach the command.
+    const CFileDescriptor inherited(::open("/dev/zero", O_RDONLY));
+    const CFileDescriptor high(::fcntl(inherited.get(), F_DUPFD, 700));
+    QVERIFY(high.isValid());
+    sigset_t blocked, before;
+    sigemptyset(&blocked);
+    sigaddset(&blocked, SIGUSR1);
+    pthread_sigmask(SIG_BLOCK, &blocked, &before);
+    const auto pipeBefore = std::signal(SIGPIPE, SIG_IGN);
+    const Lines lines = linesOf(shell("cat; ls -m /proc/$$/fd; readlink /proc/$$/fd/0;"
+                                      "grep -E 'Sig(Blk|Ign)' /proc/self/status; echo error >&2;"
+                                      "test $$ = $(ps -o pgid= -p $$) && echo own group"));
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    std::signal(SIGPIPE, pipeBefore);
+    QCOMPARE(lines,
+        (Lines{"0, 1, 2"_s, "/dev/null"_s, "SigBlk:\t0000000000000000"_s, "SigIgn:\t0000000000000000"_s, "error"_s, "own group"_s}));
+}
+
+void tst_DetachedCommand::commandIsNoChild()
+{
+    CDetachedCommand command;
+    QVERIFY2(command.start(shell("sleep 60")), qPrintable(command.errorText()));
+    QCOMPARE(::waitpid(command.pid(), nullptr, WNOHANG), -1);
+    QCOMPARE(errno, ECHILD);
+    QVERIFY(command.terminate());
+    QTRY_VERIFY(isGroupGone(command.pid()));
+}
+
+void tst_DetachedCommand::missingStandardInput()
+{
+    // A daemon's standard places may be closed; the pipes then get these numbers.
+    const CFileDescriptor saved(::dup(STDIN_FILENO));
+    ::close(STDIN_FILENO);
+    const Lines lines = linesOf(shell("cat; echo out; echo err >&2"));
+    ::dup2(saved.get(), STDIN_FILENO);
+    QCOMPARE(lines, (Lines{"out"_s, "err"_s}));
+}
+
+void tst_DetachedCommand::discardedOutput()
+{
+    QFile::remove("/tmp/discarded"_s);
+    CDetachedCommand command;
+    QVERIFY(
+        command.start(shell("readlink /proc/$$/fd/1 /proc/$$/fd/2 > /tmp/new; mv /tmp/new /tmp/discarded"),
+            CDetachedCommand::Output::Discard));
+    QCOMPARE(command.fd(), -1);
+    QTRY_COMPARE(readFile("/tmp/discarded"_s).count("/dev/null"), 1); // 1 is redirected just there
+}
+
+void tst_DetachedCommand::endsWhatIsNotWanted_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<int>("timeoutMs");
+    QTest::newRow("no more lines wanted") << QByteArray("echo $$; exec yes") << -1;
+    QTest::newRow("time-out") << QByteArray("echo $$; exec sleep 60") << 300;
+    QTest::newRow("whole group") << QByteArray("echo $$; sleep 60 & sleep 61") << 300;
+    QTest::newRow("deaf to SIGTERM") << QByteArray("trap '' TERM; echo $$; sleep 60; sleep 60") << 300;
+}
+
+void tst_DetachedCommand::endsWhatIsNotWanted()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(int, timeoutMs);
+    pid_t group = -1;
+    QVERIFY(readCommandLines(shell(script.constData()), timeoutMs, [&group](const QString& line) {
+        if (group < 0)
+            group = line.toInt();
+        return line != QLatin1String("y");
+    }));
+    QVERIFY(group > 0);
+    QTRY_VERIFY(isGroupGone(group));
+}
+
+void tst_DetachedCommand::timeOutsUnderASteadyFlood()
+{
+    QVERIFY(readCommandLines({"yes"_s}, 200, [](const QString&) { return true; }));
+}
+
+void tst_DetachedCommand::manyThreadsBesideTheReaper()
+{
+    const ChildReaper reaper;
+    CDetachedCommand longLived; // would stop the reaper for a minute if it were a child
+    QVERIFY(longLived.start({"sleep"_s, "60"_s}));
+
+    std::atomic<int> good{0};
+    std::vector<std::unique_ptr<QThread>> threads;
+    for (int index = 0; index < 4; ++index) {
+        threads.emplace_back(QThread::create([&good] {
+            for (int round = 0; round < 15; ++round) {
+                if (linesOf({"echo"_s, "hello"_s}) == Lines{"hello"_s}
+                    && linesOf({"no-such-program"_s}) == Lines{"not started"_s})
+                    ++good;
+            }
+        }));
+        threads.back()->start();
+    }
+    for (const auto& thread : threads)
+        QVERIFY(thread->wait(60000));
+    QCOMPARE(good.load(), 60);
+    longLived.terminate();
+    QTRY_VERIFY(isGroupGone(longLived.pid()));
+}
+
+void tst_DetachedCommand::keepsNoDescriptors()
+{
+    linesOf(shell("echo warm"));
+    const int before = openDescriptors();
+    for (int round = 0; round < 20; ++round) {
+        QCOMPARE(linesOf(shell("echo x; echo y")).size(), 2);
+        readCommandLines({"yes"_s}, -1, [](const QString&) { return false; });
+    }
+    QCOMPARE(openDescriptors(), before);
+}
+
+void tst_DetachedCommand::asynchronousLines()
+{
+    const ChildReaper reaper;
+    CCommandLines lines;
+    QSignalSpy read(&lines, &CCommandLines::lineRead);
+    QSignalSpy finished(&lines, &CCommandLines::finished);
+    QVERIFY(!lines.start({"no-such-program"_s}));
+    QVERIFY(!lines.errorText().isEmpty());
+    QVERIFY(!lines.isRunning());
+    lines.stop(); // nothing runs: nothing happens
+
+    for (int round = 1; round <= 2; ++round) {
+        QVERIFY(lines.start(shell("echo one; echo two >&2; printf three")));
+        QVERIFY(lines.isRunning());
+        QTRY_COMPARE(finished.count(), round);
+        QVERIFY(!lines.isRunning());
+        QCOMPARE(read.count(), 3 * round);
+    }
+    QCOMPARE(read.at(5).at(0).toString(), "three"_s);
+}
+
+void tst_DetachedCommand::stop_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("last");
+    QTest::newRow("summary") << QByteArray(
+        "trap 'echo summary; exit' INT; echo up; while :; do sleep 1; done")
+                             << "summary"_s;
+    QTest::newRow("deaf") << QByteArray("trap '' INT; echo up; sleep 60; sleep 60") << "up"_s;
+    QTest::newRow("flood") << QByteArray("trap '' INT; exec yes") << "y"_s;
+}
+
+void tst_DetachedCommand::stop()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(QString, last);
+    CCommandLines lines;
+    QSignalSpy finished(&lines, &CCommandLines::finished);
+    QString latest;
+    connect(&lines, &CCommandLines::lineRead, this, [&latest](const QString& line) { latest = line; });
+    QVERIFY(lines.start(shell(script.constData())));
+    QTRY_VERIFY(!latest.isEmpty());
+    lines.stop(SIGINT);
+    QTRY_COMPARE(finished.count(), 1);
+    QCOMPARE(latest, last);
+    QTRY_VERIFY(isGroupGone(lines.pid()));
+}
+
+void tst_DetachedCommand::receiverMayRestart()
+{
+    CCommandLines lines;
+    QSignalSpy read(&lines, &CCommandLines::lineRead);
+    QSignalSpy finished(&lines, &CCommandLines::finished);
+    connect(&lines, &CCommandLines::lineRead, this, [&lines](const QString& line) {
+        if (line == QLatin1String("first"))
+            QVERIFY(lines.start(shell("echo second")));
+    });
+    QVERIFY(lines.start(shell("echo first; echo never seen; sleep 60")));
+    QTRY_COMPARE(finished.count(), 1);
+    QCOMPARE(read.count(), 2);
+    QCOMPARE(read.at(1).at(0).toString(), "second"_s);
+}
+
+void tst_DetachedCommand::receiverMayDestroy()
+{
+    const int before = openDescriptors();
+    auto* lines = new CCommandLines;
+    QPointer<CCommandLines> guard(lines);
+    int count = 0;
+    connect(lines, &CCommandLines::lineRead, this, [&count, lines] {
+        ++count;
+        delete lines;
+    });
+    QVERIFY(lines->start(shell("echo a; echo b; sleep 60")));
+    const pid_t group = lines->pid();
+    QTRY_VERIFY(!guard);
+    QCOMPARE(count, 1);
+    QTRY_VERIFY(isGroupGone(group));
+    QCOMPARE(openDescriptors(), before);
+}
+
+void tst_DetachedCommand::destructorKills()
+{
+    pid_t group = -1;
+    {
+        CCommandLines lines;
+        QVERIFY(lines.start(shell("trap '' TERM; sleep 60; sleep 60")));
+        group = lines.pid();
+    }
+    QTRY_VERIFY(isGroupGone(group));
+}
+
+QTEST_GUILESS_MAIN(tst_DetachedCommand)
+#include "tst_detachedcommand.moc"
