@@ -108,6 +108,7 @@ signals:
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private slots:
     void itemChanged(int id);
@@ -160,6 +161,8 @@ private:
 
     // Late start-up and shutdown
     void waitForFirstPaint();
+    /** What has been painted is on the screen when this returns; comes before every step that blocks. */
+    static void flushScreen();
     void autoLoadPlugins();
     void saveSysSettings();
 
@@ -167,9 +170,26 @@ private:
     static bool isFSCaptureRunning();
     static bool isWSARunning();
 
+    // Lock and screenshots
+    void lockScreen();
+    void setScreenLocked(bool locked);
+    void saveScreen();
+    void reportScreenLimit();
+
     // Focus
-    void clearFocusWidget();
+    void tapFocusWidget();
+    void moveFocus(DetectDirection direction);
+    QWidget* firstFocusWidget();
+    bool hasWidgetDetected(DetectDirection direction, DetectType type);
+    QRect getDetectRect(QWidget* widget, int step, DetectDirection direction, DetectType type);
+    bool canDetectTo(const QRect& strip) const;
+    QWidget* findChildAt(const QRect& strip);
+    QRect globalRect(QWidget* widget) const;
+    static float distance(const QPoint& from, const QPoint& to);
+    static void allChildren(QObject* parent, QList<QObject*>& children);
     void setWidgetFocus(QObject* widget, bool on);
+    void clearFocusWidget();
+    void resetFocusWidget();
 
     /** Runs a box of the shell's own look, centred on the working area. @return its answer */
     int execBox(CMessageBox& box);
@@ -190,6 +210,8 @@ private:
     bool bIsUILocked = false;
     bool bIsAutoTSCal = false;
     bool m_isPainted = false;
+    int m_saveScreenCount = 0; // screenshots asked for since the start
+    QString m_saveScreenDirPath = QStringLiteral("/home/arvo/screen");
 
     StorageStatus m_storeStat;
     WIFIStatus m_wifiStat;

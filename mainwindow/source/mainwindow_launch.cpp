@@ -86,6 +86,11 @@ void CMainWindow::waitForFirstPaint()
         QTimer::singleShot(FIRST_PAINT_LIMIT, &loop, &QEventLoop::quit);
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     }
+    flushScreen();
+}
+
+void CMainWindow::flushScreen()
+{
     if (Display* display = QX11Info::display())
         XSync(display, False);
 }

@@ -16,7 +16,6 @@
 #include <QKeyEvent>
 #include <QLineF>
 #include <QThread>
-#include <QX11Info>
 
 #include <algorithm>
 
@@ -105,8 +104,7 @@ void CMainWindow::tapFocusWidget()
     if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
         button->setDown(true);
         button->repaint();
-        if (Display* display = QX11Info::display())
-            XSync(display, False);
+        flushScreen();
     }
     QThread::msleep(TAP_TIME);
     post(QEvent::MouseButtonRelease, Qt::NoButton);

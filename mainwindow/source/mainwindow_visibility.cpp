@@ -33,6 +33,7 @@ void CMainWindow::setWindowVisible(bool visible)
         hideCurrentUtilPage();
         setWindowHidden(TestAppForeground);
         blockAppAreaUpdate();
+        flushScreen();
         QThread::msleep(SETTLE_AFTER_HIDING);
     }
 }
