@@ -169,9 +169,8 @@ void CMessageBox::adjustToText()
         buttonRowWidth() + frame});
     const int width = std::max(narrowest, std::min(wanted, widest));
 
-    const int titleHeight = CWidgetStyle::getMetric(QStringLiteral("messageTitleHeight"), 42);
     const int height
-        = 2 * Border + titleHeight + Margin + textHeight(width) + Margin + buttonHeight() + Margin * 2 / 3;
+        = 2 * Border + titleHeight() + Margin + textHeight(width) + Margin + buttonHeight() + Margin * 2 / 3;
     resize(width, std::min(height, room.height()));
     layoutParts();
 }
@@ -179,12 +178,10 @@ void CMessageBox::adjustToText()
 void CMessageBox::layoutParts()
 {
     const QRect inner = innerRect();
-    const int titleHeight = std::max(
-        CWidgetStyle::getMetric(QStringLiteral("messageTitleHeight"), 42), m_pTitle->sizeHint().height() + 8);
-    m_pTitle->setGeometry(inner.left(), inner.top(), inner.width(), titleHeight);
+    m_pTitle->setGeometry(inner.left(), inner.top(), inner.width(), titleHeight());
 
     const int rowTop = inner.bottom() + 1 - Margin * 2 / 3 - buttonHeight();
-    const int textTop = inner.top() + titleHeight + Margin / 2;
+    const int textTop = inner.top() + titleHeight() + Margin / 2;
     m_pText->setGeometry(
         inner.left() + Margin, textTop, inner.width() - 2 * Margin, rowTop - Margin / 2 - textTop);
 
@@ -212,4 +209,10 @@ int CMessageBox::textHeight(int boxWidth) const
     // At least two lines, so that short messages have air around them.
     const int text = m_pText->heightForWidth(boxWidth - 2 * (Border + Margin));
     return std::max(text, 2 * m_pText->fontMetrics().lineSpacing());
+}
+
+int CMessageBox::titleHeight() const
+{
+    const int least = CWidgetStyle::getMetric(QStringLiteral("messageTitleHeight"), 42);
+    return std::max(least, m_pTitle->sizeHint().height() + Margin / 2);
 }

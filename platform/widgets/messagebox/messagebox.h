@@ -50,6 +50,7 @@ private:
     void layoutParts();
     int buttonRowWidth() const;
     int textHeight(int boxWidth) const;
+    int titleHeight() const;
 
     CLabel* m_pTitle;
     CLabel* m_pText;

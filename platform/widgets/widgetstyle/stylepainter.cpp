@@ -66,10 +66,11 @@ QStringList wrapped(const QString& paragraph, const QFont& font, int width)
     return lines;
 }
 
-// The widest piece that cannot be broken: a line, or a word where lines are wrapped.
-int widestPiece(const QString& text, const QFontMetrics& metrics, bool wrap)
+// The widest piece that cannot be broken: a line, or a word where lines are wrapped. Not rounded, as the
+// layout's line breaks are not.
+qreal widestPiece(const QString& text, const QFontMetricsF& metrics, bool wrap)
 {
-    int widest = 0;
+    qreal widest = 0;
     for (const QString& line : text.split(QLatin1Char('\n'))) {
         const QStringList pieces = wrap ? line.split(QLatin1Char(' ')) : QStringList(line);
         for (const QString& piece : pieces)
@@ -190,7 +191,7 @@ void CStylePainter::paintText(QPainter& painter, const QRect& rect, Qt::Alignmen
     QFont font = painter.font();
     if (shrink && font.pixelSize() > 0) {
         const int smallest = font.pixelSize() * 4 / 5;
-        while (font.pixelSize() > smallest && widestPiece(text, QFontMetrics(font), wrap) > rect.width())
+        while (font.pixelSize() > smallest && widestPiece(text, QFontMetricsF(font), wrap) > rect.width())
             font.setPixelSize(font.pixelSize() - 1);
     }
     painter.setFont(font);
