@@ -43,8 +43,8 @@ StorageSetting CGlobalSettingUtils::GetStorageSetting()
         return setting;
     const auto* block = static_cast<const char*>(attached);
     setting.isKnown = true;
-    setting.fileNamePrefix = QString::fromUtf8(
-        block + FNAME_PREFIX, int(::strnlen(block + FNAME_PREFIX, FNAME_PREFIX_BYTES)));
+    setting.fileNamePrefix
+        = QString::fromUtf8(block + FNAME_PREFIX, int(::strnlen(block + FNAME_PREFIX, FNAME_PREFIX_BYTES)));
     setting.profileDeleting = integerAt(block, PROFDEL_TYPE);
     setting.profileSaving = integerAt(block, PROFSAVE_TYPE);
     setting.resultSaving = integerAt(block, RSLTSAVE_TYPE);

@@ -8,8 +8,9 @@ namespace miscutils {
 class CCommUtils
 {
 public:
-    /** True when a process whose program name (last part of argv[0], or the kernel's name) equals `name` runs. */
-    static bool IsProcessExist(const QString &name);
+    /** True when a process whose program name (last part of argv[0], or the kernel's name) equals `name`
+     * runs. */
+    static bool IsProcessExist(const QString& name);
 };
 
 } // namespace miscutils

@@ -32,7 +32,7 @@ public:
      * @param[out] text the failure as text for the user, e.g. "9 (battery)"; empty when none is known
      * @return false when the service did not answer; text is then empty
      */
-    bool QueryLatestSysFailure(QString &text);
+    bool QueryLatestSysFailure(QString& text);
 };
 
 } // namespace serv
