@@ -20,10 +20,10 @@ constexpr char FailureFile[] = "/tmp/var/sim/failure";
 
 struct BusCloser
 {
-    void operator()(sd_bus *bus) const { sd_bus_flush_close_unref(bus); }
+    void operator()(sd_bus* bus) const { sd_bus_flush_close_unref(bus); }
 };
 
-int switchLanguage(sd_bus_message *request, void *, sd_bus_error *error)
+int switchLanguage(sd_bus_message* request, void*, sd_bus_error* error)
 {
     int language = 0;
     const int read = sd_bus_message_read(request, "i", &language);
@@ -36,7 +36,7 @@ int switchLanguage(sd_bus_message *request, void *, sd_bus_error *error)
     return sd_bus_reply_method_return(request, "");
 }
 
-int queryLatestSysFailure(sd_bus_message *request, void *, sd_bus_error *)
+int queryLatestSysFailure(sd_bus_message* request, void*, sd_bus_error*)
 {
     std::string text;
     std::ifstream file(FailureFile);
@@ -55,7 +55,7 @@ const sd_bus_vtable FailureInterface[] = {
     SD_BUS_VTABLE_END,
 };
 
-int failed(const char *what, int error)
+int failed(const char* what, int error)
 {
     std::fprintf(stderr, "platformd: %s: %s\n", what, std::strerror(-error));
     return EXIT_FAILURE;
@@ -63,7 +63,7 @@ int failed(const char *what, int error)
 
 } // namespace
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     int readyDescriptor = -1;
     if (argc == 3 && std::strcmp(argv[1], "--ready-fd") == 0)
@@ -73,7 +73,7 @@ int main(int argc, char **argv)
         return 2;
     }
 
-    sd_bus *opened = nullptr;
+    sd_bus* opened = nullptr;
     int result = sd_bus_open_system(&opened);
     if (result < 0)
         return failed("no system bus", result);
