@@ -10,8 +10,8 @@ class QPluginLoader;
 class UtilInterface;
 
 /**
- * Finds, loads and drives the utility plug-ins. One is current at a time: the one loaded last. Libraries stay mapped
- * for the life of the process, so leaving a plug-in only stops it.
+ * Finds, loads and drives the utility plug-ins. One is current at a time: the one loaded last. Libraries stay
+ * mapped for the life of the process, so leaving a plug-in only stops it.
  *
  * Interface thread. Owned by the main window; the plug-ins' root objects belong to the loader.
  */
@@ -28,11 +28,13 @@ public:
     /** Root object of the utility's library, loaded if need be; null when that failed. */
     QObject* getPluginInstance(UtilityID id);
 
-    /** Loads the utility's library and makes it the current plug-in. @return null when that failed, see errorString() */
+    /** Loads the utility's library and makes it the current plug-in. @return null when that failed, see
+     * errorString() */
     UtilInterface* loadPlugin(UtilityID id);
     /** Stops the current plug-in. @return its answer, false when none is loaded */
     bool unloadPlugin();
-    /** Ends the background work of the plug-ins that have any. @return true when all of them could be loaded */
+    /** Ends the background work of the plug-ins that have any. @return true when all of them could be loaded
+     */
     bool terminatePlugin();
 
     void updatePluginWindow();

@@ -17,8 +17,9 @@ class QWidget;
  *   terminate()                before power-off or restart
  * The library stays mapped for the life of the process, so start() and stop() alternate on one object.
  *
- * Ownership: the root object belongs to the loader. The page that start() makes belongs to the plug-in, is a child
- * of the given parent, and is gone after stop(). Whatever outlives the page (a background run) ends in terminate().
+ * Ownership: the root object belongs to the loader. The page that start() makes belongs to the plug-in, is a
+ * child of the given parent, and is gone after stop(). Whatever outlives the page (a background run) ends in
+ * terminate().
  *
  * A plug-in never leaves a child process of its own behind: long-lived helpers are started detached.
  *
@@ -60,14 +61,15 @@ public:
     virtual QString getPluginName() = 0; ///< name for the user
     virtual QString getPluginVersion() = 0;
     virtual QString getPluginBuilder() = 0; ///< who built it
-    virtual bool bkgRun(QWidget *parent) = 0; ///< start without showing; false when that failed
-    virtual bool start(QWidget *parent) = 0; ///< make the page under `parent`, the shell's window, and show it
+    virtual bool bkgRun(QWidget* parent) = 0; ///< start without showing; false when that failed
+    virtual bool start(QWidget* parent)
+        = 0; ///< make the page under `parent`, the shell's window, and show it
     virtual bool stop() = 0; ///< stop and release the page; false when that failed
     virtual void terminate() = 0; ///< end all background work
     virtual void show() = 0;
     virtual void hide() = 0;
     virtual void update() = 0; ///< refresh texts and contents
-    virtual QObject *getObject() = 0; ///< for signal connections; may be null
+    virtual QObject* getObject() = 0; ///< for signal connections; may be null
     virtual void setCallerID(int callerId) = 0; ///< the UtilityID that was current before this one
 
     bool bIsStarted = false; ///< a page exists; kept by the plug-in

@@ -1,0 +1,57 @@
+#include "exampleplugin.h"
+
+#include "systemsettings.h"
+#include "widgets/label/label.h"
+#include "widgets/pushbutton/pushbutton.h"
+#include "widgets/widget/widget.h"
+#include "widgets/widgetstyle/widgetstyle.h"
+
+CExamplePlugin::CExamplePlugin() = default;
+CExamplePlugin::~CExamplePlugin() = default;
+
+bool CExamplePlugin::start(QWidget* parent)
+{
+    m_page = std::make_unique<CWidget>(parent);
+    m_page->setBackgroundColor(CWidgetStyle::ColorScreen);
+    m_page->setBorderColor(CWidgetStyle::ColorFrame);
+    m_page->setBorderWidth(0, 1, 1, 1);
+    m_page->setGeometry(CWidgetStyle::getScreenRegion(CWidgetStyle::RegionWorkingArea));
+
+    const int brightness
+        = CSystemSettings::globalSettings()->getAttribute(CSystemSettings::ACBrightness).toInt();
+    auto* label = new CLabel(tr("The brightness on external power is %1.").arg(brightness), m_page.get());
+    label->setGeometry(24, 24, 592, 40);
+    auto* button = new CPushButton(tr("Close"), m_page.get());
+    button->setGeometry(24, 80, 160, 44);
+    connect(button, &CPushButton::clicked, this, &CExamplePlugin::requestToClose);
+
+    m_page->show();
+    m_page->raise();
+    bIsStarted = true;
+    return true;
+}
+
+bool CExamplePlugin::stop()
+{
+    m_page.reset();
+    bIsStarted = false;
+    return true;
+}
+
+void CExamplePlugin::show()
+{
+    if (m_page)
+        m_page->show();
+}
+
+void CExamplePlugin::hide()
+{
+    if (m_page)
+        m_page->hide();
+}
+
+void CExamplePlugin::update()
+{
+    if (m_page)
+        m_page->translate();
+}

@@ -1,0 +1,264 @@
+#include "pluginman.h"
+#include "utilinterface.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+#include <QWidget>
+
+#include <unistd.h>
+
+namespace {
+
+const QString DIRECTORY = QStringLiteral("/usr/local/arvo/plugins");
+const QString LOG = QStringLiteral("/tmp/fixture-plugin.log");
+
+QString pathOf(const char* library)
+{
+    return DIRECTORY + QLatin1Char('/') + QLatin1String(library);
+}
+
+void install(const char* fixture, const char* library)
+{
+    QFile::remove(pathOf(library));
+    QVERIFY(QFile::copy(QStringLiteral(FIXTURE_DIR "/") + QLatin1String(fixture), pathOf(library)));
+}
+
+QByteArray fixture(const char* name)
+{
+    QFile file(QStringLiteral(FIXTURE_DIR "/") + QLatin1String(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList calls()
+{
+    QFile file(LOG);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+class TestPluginManager : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void utilities_data();
+    void utilities();
+    void nothingLoadedDoesNothing();
+    void drivesTheCurrentPlugin();
+    void lastLoadedIsDriven();
+    void noInterface();
+    void unusableFile_data();
+    void unusableFile();
+    void unreadableFile();
+    void errorStaysUntilCleared();
+    void terminateReachesBothBackgroundPlugins();
+    void manyLoadsKeepTheDescriptors();
+};
+
+void TestPluginManager::init()
+{
+    QDir directory(DIRECTORY);
+    for (const QString& name : directory.entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const QString path = directory.filePath(name);
+        if (!QFile::remove(path))
+            QDir(path).removeRecursively();
+    }
+    QFile::remove(LOG);
+}
+
+void TestPluginManager::utilities_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::addColumn<QString>("library"); // empty: none
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isPlugin");
+    QTest::addColumn<bool>("isReleased");
+    const struct
+    {
+        int id;
+        const char* library;
+        const char* name;
+        bool isPlugin;
+        bool isReleased;
+    } rows[] = {
+        {UTILITY_ID_BEGIN, "", "", false, true},
+        {UTILITY_ID_TOOLS, "", "", true, true}, // in neither list
+        {UTILITY_ID_IP_TOOLS, "libIPtool.so", "IP Tools", true, true},
+        {UTILITY_ID_ADVTOOL, "", "", false, true},
+        {UTILITY_ID_BROWSER, "libwebbrowser.so", "Web Browser", true, true},
+        {UTILITY_ID_NETWORK, "", "", true, false},
+        {UTILITY_ID_SCOPEX, "", "", true, false},
+        {UTILITY_ID_DATACARD_GPS, "libhighPrecisionClockSource.so", "", true, false},
+        {UTILITY_ID_DATACARD_3G, "libdataCard.so", "", true, true},
+        {UTILITY_ID_OSTREL, "libostrel.so", "ostrel", true, true},
+        {UTILITY_ID_WIFI_INSSDER, "libwifiinssider.so", "WIFI inSSIDer", true, true},
+        {UTILITY_ID_DATE_TIME, "libdateTime.so", "Date & Time Settings", true, true},
+        {UTILITY_ID_USB_BROWSER, "", "", false, true},
+        {UTILITY_ID_END, "", "", false, true},
+    };
+    for (const auto& row : rows)
+        QTest::addRow("%d", row.id) << row.id << QString::fromLatin1(row.library)
+                                    << QString::fromLatin1(row.name) << row.isPlugin << row.isReleased;
+}
+
+void TestPluginManager::utilities()
+{
+    QFETCH(int, id);
+    QFETCH(QString, library);
+    CPluginManager manager;
+    const auto util = UtilityID(id);
+    QCOMPARE(manager.getPluginFileName(util), library.isEmpty() ? QString() : DIRECTORY + '/' + library);
+    QTEST(manager.getPluginName(util), "name");
+    QTEST(manager.isPlugin(util), "isPlugin");
+    QTEST(manager.isPluginReleased(util), "isReleased");
+    QCOMPARE(manager.hasSubPlugin(util), id == UTILITY_ID_ADVTOOL);
+    QVERIFY(!manager.loadPlugin(util));
+    QCOMPARE(manager.errorString() == QStringLiteral("Invalid plugin ID."), library.isEmpty());
+    QVERIFY(!manager.errorString().isEmpty());
+}
+
+void TestPluginManager::nothingLoadedDoesNothing()
+{
+    CPluginManager manager;
+    manager.setPluginWindowVisible(true);
+    manager.setPluginWindowVisible(false);
+    manager.updatePluginWindow();
+    QVERIFY(!manager.unloadPlugin());
+    QVERIFY(calls().isEmpty());
+}
+
+void TestPluginManager::drivesTheCurrentPlugin()
+{
+    install("libfixture_recorder.so", "libharbor.so");
+    CPluginManager manager;
+    QWidget host;
+    UtilInterface* plugin = manager.loadPlugin(UTILITY_ID_HARBOR);
+    QVERIFY2(plugin, qPrintable(manager.errorString()));
+    QVERIFY(plugin->start(&host));
+    manager.setPluginWindowVisible(false);
+    manager.setPluginWindowVisible(true);
+    manager.updatePluginWindow();
+    QVERIFY(manager.unloadPlugin());
+    QVERIFY(!manager.unloadPlugin()); // the fixture says false when it was not started
+    QVERIFY(host.children().isEmpty());
+    // The library stays: the same object serves the next start.
+    QCOMPARE(manager.loadPlugin(UTILITY_ID_HARBOR), plugin);
+    QCOMPARE(calls().join(QLatin1Char(' ')), QStringLiteral("start hide show update stop stop"));
+}
+
+void TestPluginManager::lastLoadedIsDriven()
+{
+    install("libfixture_recorder.so", "libharbor.so");
+    CPluginManager manager;
+    QVERIFY(manager.loadPlugin(UTILITY_ID_HARBOR));
+    QVERIFY(!manager.loadPlugin(UTILITY_ID_VFL)); // there is no such library
+    manager.updatePluginWindow();
+    QVERIFY(!manager.unloadPlugin());
+    QVERIFY(calls().isEmpty());
+}
+
+void TestPluginManager::noInterface()
+{
+    install("libfixture_nointerface.so", "libharbor.so");
+    CPluginManager manager;
+    QVERIFY(!manager.loadPlugin(UTILITY_ID_HARBOR));
+    QVERIFY(!manager.unloadPlugin()); // the library is loaded, and there is nothing to stop
+    manager.setPluginWindowVisible(true);
+}
+
+void TestPluginManager::unusableFile_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const QByteArray whole = fixture("libfixture_recorder.so");
+    QByteArray foreign = whole;
+    foreign[18] = 40; // e_machine: ARM
+    foreign[19] = 0;
+    QByteArray narrow = whole;
+    narrow[4] = 1; // 32-bit class
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("text") << QByteArray("not a library\n");
+    QTest::newRow("header only") << whole.left(64);
+    QTest::newRow("one page") << whole.left(4096);
+    QTest::newRow("half") << whole.left(whole.size() / 2);
+    QTest::newRow("all but the last byte") << whole.chopped(1);
+    QTest::newRow("another architecture") << foreign;
+    QTest::newRow("another word size") << narrow;
+    QTest::newRow("no plug-in") << fixture("libfixture_noplugin.so");
+}
+
+void TestPluginManager::unusableFile()
+{
+    QFETCH(QByteArray, content);
+    QFile file(pathOf("libvfl.so"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    CPluginManager manager;
+    QVERIFY(!manager.loadPlugin(UTILITY_ID_VFL));
+    QVERIFY2(manager.errorString().size() > 10, qPrintable(manager.errorString()));
+    QVERIFY(!manager.unloadPlugin());
+}
+
+void TestPluginManager::unreadableFile()
+{
+    install("libfixture_recorder.so", "libvfl.so");
+    QVERIFY(QFile::setPermissions(pathOf("libvfl.so"), QFile::Permissions()));
+    // root may read everything: look as somebody else for as long as it takes.
+    const bool isRoot = ::geteuid() == 0;
+    if (isRoot && ::seteuid(65534) != 0)
+        QSKIP("no other user in this namespace");
+    CPluginManager manager;
+    const bool loaded = manager.loadPlugin(UTILITY_ID_VFL);
+    if (isRoot)
+        QCOMPARE(::seteuid(0), 0);
+    QVERIFY(!loaded);
+    QVERIFY2(manager.errorString().size() > 10, qPrintable(manager.errorString()));
+}
+
+void TestPluginManager::errorStaysUntilCleared()
+{
+    install("libfixture_recorder.so", "libharbor.so");
+    CPluginManager manager;
+    QVERIFY(!manager.loadPlugin(UTILITY_ID_SETTINGS));
+    QVERIFY(manager.loadPlugin(UTILITY_ID_HARBOR));
+    QCOMPARE(manager.errorString(), QStringLiteral("Invalid plugin ID."));
+    manager.clearError();
+    QVERIFY(manager.errorString() != QStringLiteral("Invalid plugin ID."));
+}
+
+void TestPluginManager::terminateReachesBothBackgroundPlugins()
+{
+    CPluginManager manager;
+    QVERIFY(!manager.terminatePlugin());
+    install("libfixture_recorder.so", "libIPtool.so");
+    QVERIFY(!manager.terminatePlugin()); // one of the two is missing, the other is ended all the same
+    QCOMPARE(calls().count(QStringLiteral("terminate")), 1);
+    install("libfixture_recorder.so", "libostrel.so");
+    QVERIFY(manager.terminatePlugin());
+    QCOMPARE(calls().count(QStringLiteral("terminate")), 3);
+}
+
+void TestPluginManager::manyLoadsKeepTheDescriptors()
+{
+    install("libfixture_recorder.so", "libharbor.so");
+    install("libfixture_failstart.so", "libOpm.so");
+    const auto descriptors = [] { return QDir(QStringLiteral("/proc/self/fd")).count(); };
+    CPluginManager manager;
+    QVERIFY(manager.loadPlugin(UTILITY_ID_HARBOR));
+    QVERIFY(manager.loadPlugin(UTILITY_ID_OPM));
+    const auto before = descriptors();
+    for (int i = 0; i < 100; ++i) {
+        QVERIFY(manager.loadPlugin(UTILITY_ID_HARBOR));
+        QVERIFY(manager.loadPlugin(UTILITY_ID_OPM));
+        QVERIFY(!manager.loadPlugin(UTILITY_ID_VFL));
+    }
+    QCOMPARE(descriptors(), before);
+}
+
+QTEST_MAIN(TestPluginManager)
+#include "tst_pluginman.moc"
