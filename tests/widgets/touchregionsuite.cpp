@@ -123,10 +123,10 @@ private slots:
         CEventCounter counter;
         m_window->installEventFilter(&counter);
         m_window->setAttribute(Qt::WA_AcceptTouchEvents);
-        std::unique_ptr<QTouchDevice> device(QTest::createTouchDevice());
+        QTouchDevice* device = QTest::createTouchDevice(); // belongs to the application
         const auto touchAt = [&](const QPoint& place) {
-            QTest::touchEvent(m_window.get(), device.get()).press(1, place, m_window.get());
-            QTest::touchEvent(m_window.get(), device.get()).release(1, place, m_window.get());
+            QTest::touchEvent(m_window.get(), device).press(1, place, m_window.get());
+            QTest::touchEvent(m_window.get(), device).release(1, place, m_window.get());
             QWheelEvent wheel(place, m_window->mapToGlobal(place), QPoint(), QPoint(0, 120), Qt::NoButton,
                 Qt::NoModifier, Qt::NoScrollPhase, false);
             QCoreApplication::sendEvent(m_window.get(), &wheel);
@@ -139,8 +139,6 @@ private slots:
         touchAt(QPoint(300, 20));
         QCOMPARE(counter.counts.value(QEvent::TouchBegin), 1);
         QCOMPARE(counter.counts.value(QEvent::Wheel), 1);
-        // The device belongs to the application from here on.
-        device.release();
     }
 
 private:

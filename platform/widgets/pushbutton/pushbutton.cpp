@@ -163,7 +163,7 @@ QColor CPushButton::currentTextColor() const
     if (!isEnabled())
         return CWidgetStyle::getButtonLook(CWidgetStyle::ButtonDisabled).text;
     if (isDown()) {
-        const QColor pressed = attributeColor(PressColor);
+        QColor pressed = attributeColor(PressColor);
         if (pressed.isValid())
             return pressed;
         // On its own pictures a button keeps its own colour; on the pressed look only the look's is readable.
@@ -171,7 +171,7 @@ QColor CPushButton::currentTextColor() const
         const QColor look = CWidgetStyle::getButtonLook(CWidgetStyle::ButtonPressed).text;
         return ownLook ? textColorOr(look) : look;
     }
-    const QColor released = attributeColor(ReleaseColor);
+    QColor released = attributeColor(ReleaseColor);
     if (released.isValid())
         return released;
     const QColor look = isChecked() ? CWidgetStyle::getColor(CWidgetStyle::ColorTextLight)

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr qint64 LargestFile = 1024 * 1024;
+constexpr qint64 LargestFile = 1 << 20;
 constexpr int LongestLog = 20; // a broken file must not flood the log
 constexpr int LargestSize = 4096;
 
