@@ -9,6 +9,19 @@ namespace xmlfile {
 
 namespace {
 
+// The stream reader compares every attribute of an element with every other.
+bool hasTooManyAttributes(const QByteArray& content)
+{
+    int count = 0;
+    for (const char byte : content) {
+        if (byte == '<')
+            count = 0;
+        else if (byte == '=' && ++count > MaxAttributes)
+            return true;
+    }
+    return false;
+}
+
 // Decides from the flat token stream what may become a tree: the document model itself neither bounds its
 // depth, which costs stack when it is saved or destroyed, nor the text that entities expand to.
 bool isAcceptable(const QByteArray& content)
@@ -51,7 +64,8 @@ ReadResult read(const QString& path, QDomDocument& document)
         return ReadResult::CannotOpen;
     const QByteArray content = file.read(MaxFileSize + 1);
     file.close();
-    if (content.size() > MaxFileSize || !isAcceptable(content) || !document.setContent(content)) {
+    if (content.size() > MaxFileSize || hasTooManyAttributes(content) || !isAcceptable(content)
+        || !document.setContent(content)) {
         document.clear();
         return ReadResult::CannotParse;
     }

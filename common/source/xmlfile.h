@@ -11,6 +11,7 @@ namespace xmlfile {
 
 constexpr int MaxFileSize = 1024 * 1024; ///< bytes; a larger file counts as one that cannot be parsed
 constexpr int MaxDepth = 100; ///< nested elements; likewise
+constexpr int MaxAttributes = 500; ///< of one element, counted as "=" from one "<" to the next; likewise
 
 enum class ReadResult { Ok, CannotOpen, CannotParse };
 
