@@ -57,7 +57,7 @@ QString findProgram(const QString& name)
 {
     if (name.isEmpty() || name.contains(QLatin1Char('/')))
         return name;
-    const QString found = QStandardPaths::findExecutable(name);
+    QString found = QStandardPaths::findExecutable(name);
     if (!found.isEmpty())
         return found;
     // The tools of a unit live in directories that a user's PATH may lack.

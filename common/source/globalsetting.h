@@ -72,7 +72,7 @@ struct stArvo_global_setting
 };
 
 #define ASSERT_FIELD(FIELD, OFFSET)                                                                          \
-    static_assert(offsetof(stArvo_global_setting, FIELD) == OFFSET, "other processes read " #FIELD)
+    static_assert(offsetof(stArvo_global_setting, FIELD) == (OFFSET), "other processes read " #FIELD)
 
 ASSERT_FIELD(magic_mark, 0);
 ASSERT_FIELD(unittype, 4);

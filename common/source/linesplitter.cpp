@@ -37,7 +37,7 @@ QString CLineSplitter::takeLine()
     if (m_line.endsWith('\r'))
         m_line.chop(1);
     const int length = qMax(0, m_line.size());
-    const QString line = QString::fromUtf8(m_line.constData(), length); // all of it, also behind a NUL
+    QString line = QString::fromUtf8(m_line.constData(), length); // all of it, also behind a NUL
     m_line.clear();
     return line;
 }
