@@ -1,0 +1,102 @@
+#include "systemfacts.h"
+
+#include <QFile>
+#include <QStringList>
+
+#include <algorithm>
+#include <arpa/inet.h>
+#include <ctime>
+#include <ifaddrs.h>
+#include <memory>
+#include <net/if.h>
+#include <netinet/in.h>
+
+namespace {
+
+/** Numbers of an address; empty for what is no IP address. */
+QString addressText(const sockaddr* address)
+{
+    if (!address || (address->sa_family != AF_INET && address->sa_family != AF_INET6))
+        return {};
+    const void* bytes = address->sa_family == AF_INET
+        ? static_cast<const void*>(&reinterpret_cast<const sockaddr_in*>(address)->sin_addr)
+        : static_cast<const void*>(&reinterpret_cast<const sockaddr_in6*>(address)->sin6_addr);
+    char text[INET6_ADDRSTRLEN] = {};
+    return ::inet_ntop(address->sa_family, bytes, text, sizeof text) ? QString::fromLatin1(text) : QString();
+}
+
+struct Interface
+{
+    QString name;
+    bool isLoopback;
+    QStringList v4;
+    QStringList v6;
+};
+
+} // namespace
+
+MemoryFacts parseMemory(const QByteArray& meminfo)
+{
+    MemoryFacts facts;
+    const struct
+    {
+        const char* key;
+        qint64& value;
+    } fields[] = {{"MemTotal:", facts.total}, {"MemFree:", facts.free}, {"MemAvailable:", facts.available}};
+    for (const QByteArray& line : meminfo.split('\n')) {
+        const QList<QByteArray> words = line.simplified().split(' ');
+        for (const auto& field : fields) {
+            bool isNumber = false;
+            const qint64 value = words.value(1).toLongLong(&isNumber);
+            if (words.first() == field.key && isNumber)
+                field.value = value;
+        }
+    }
+    return facts;
+}
+
+MemoryFacts readMemory()
+{
+    QFile file(QStringLiteral("/proc/meminfo"));
+    return file.open(QIODevice::ReadOnly) ? parseMemory(file.readAll()) : MemoryFacts();
+}
+
+qint64 readUptime()
+{
+    timespec time{};
+    return ::clock_gettime(CLOCK_BOOTTIME, &time) == 0 ? qint64(time.tv_sec) : -1;
+}
+
+QVector<InterfaceAddress> readAddresses()
+{
+    ifaddrs* first = nullptr;
+    if (::getifaddrs(&first) != 0)
+        return {};
+    const std::unique_ptr<ifaddrs, decltype(&::freeifaddrs)> guard(first, &::freeifaddrs);
+
+    QVector<Interface> interfaces;
+    for (const ifaddrs* entry = first; entry; entry = entry->ifa_next) {
+        if (!(entry->ifa_flags & IFF_UP))
+            continue;
+        const QString name = QString::fromLocal8Bit(entry->ifa_name);
+        auto found = std::find_if(interfaces.begin(), interfaces.end(),
+            [&name](const Interface& known) { return known.name == name; });
+        if (found == interfaces.end())
+            found = interfaces.insert(found, {name, bool(entry->ifa_flags & IFF_LOOPBACK), {}, {}});
+        const QString address = addressText(entry->ifa_addr);
+        if (!address.isEmpty())
+            (entry->ifa_addr->sa_family == AF_INET ? found->v4 : found->v6) << address;
+    }
+    std::stable_partition(
+        interfaces.begin(), interfaces.end(), [](const Interface& known) { return !known.isLoopback; });
+
+    QVector<InterfaceAddress> result;
+    for (const Interface& known : qAsConst(interfaces)) {
+        const QStringList addresses = known.v4 + known.v6;
+        if (addresses.isEmpty())
+            result << InterfaceAddress{known.name, QString()};
+        for (const QString& address : addresses)
+            result << InterfaceAddress{known.name, address};
+    }
+    return result;
+}

@@ -1,0 +1,170 @@
+#include "backlightgroup.h"
+
+#include "widgets/checkbox/checkbox.h"
+#include "widgets/label/label.h"
+#include "widgets/parmcombobox/parmcombobox.h"
+#include "widgets/progressbar/progressbar.h"
+#include "widgets/pushbutton/pushbutton.h"
+#include "widgets/widgetstyle/widgetstyle.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int Times[] = {10, 15, 20, 30, 45, 60, 120, 180, 300, 600}; // seconds
+constexpr int BrightnessStep = 5;
+constexpr int BrightnessMax = 100;
+
+/** The times on offer, in order; the stored one is among them whatever it is. */
+QVector<int> timesWith(int stored)
+{
+    QVector<int> times(std::begin(Times), std::end(Times));
+    const auto place = std::lower_bound(times.begin(), times.end(), stored);
+    if (place == times.end() || *place != stored)
+        times.insert(place, stored);
+    return times;
+}
+
+QString timeText(int seconds)
+{
+    if (seconds < 60)
+        return CBacklightGroup::tr("%1 s", "seconds").arg(seconds);
+    const QString minutes = CBacklightGroup::tr("%1 min", "minutes").arg(seconds / 60);
+    return seconds % 60 == 0 ? minutes : minutes + QLatin1Char(' ') + timeText(seconds % 60);
+}
+
+/** The next multiple of the step in a direction (-1 or 1), on the scale. */
+int steppedBrightness(int value, int direction)
+{
+    const int inside = qBound(0, value, BrightnessMax);
+    const int below = direction > 0 ? inside : inside + BrightnessStep - 1;
+    return qBound(0, (below / BrightnessStep + direction) * BrightnessStep, BrightnessMax);
+}
+
+CSystemSettings* store()
+{
+    return CSystemSettings::globalSettings();
+}
+
+} // namespace
+
+CBacklightGroup::CBacklightGroup(const Source& source, QWidget* parent)
+    : CWidget(parent)
+    , m_source(source)
+    , m_title(new CLabel(this))
+    , m_enabled(new CCheckBox(this))
+    , m_time(new CParmComboBox(QString(), {}, QString(), this))
+    , m_brightnessName(new CLabel(this))
+    , m_brightnessValue(new CLabel(this))
+    , m_darker(new CPushButton(QStringLiteral("\u2212"), this))
+    , m_brightness(new CProgressBar(this))
+    , m_brighter(new CPushButton(QStringLiteral("+"), this))
+{
+    setBackgroundColor(CWidgetStyle::ColorToolBox);
+    m_title->setBold(true);
+    m_title->setTextSize(18);
+    m_enabled->setSkinEnabled(true);
+    m_brightnessValue->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_brightnessValue->setObjectName(QStringLiteral("brightness"));
+    m_brightness->setRange(0, BrightnessMax);
+    m_brightness->setTextVisible(false);
+    m_darker->setObjectName(QStringLiteral("darker"));
+    m_brighter->setObjectName(QStringLiteral("brighter"));
+    for (CPushButton* button : {m_darker, m_brighter}) {
+        button->setTextSize(26);
+        button->setAutoRepeat(true);
+    }
+    placeControls();
+    translate();
+    showEnabled();
+    showBrightness();
+
+    // Only what the user does is written: following a change made elsewhere must not write it again.
+    connect(m_enabled, &CCheckBox::clicked, this, [this](bool on) { write(m_source.enabled, on); });
+    connect(m_time, &CParmComboBox::activated, this, [this](int index) {
+        if (index >= 0 && index < m_times.size())
+            write(m_source.time, m_times.at(index));
+    });
+    connect(m_darker, &CPushButton::clicked, this, [this] { stepBrightness(-1); });
+    connect(m_brighter, &CPushButton::clicked, this, [this] { stepBrightness(1); });
+    connect(store(), &CSystemSettings::attributeChanged, this, &CBacklightGroup::follow);
+}
+
+void CBacklightGroup::translate()
+{
+    CWidget::translate();
+    m_title->setText(tr(m_source.title));
+    m_enabled->setText(tr("Switch off the backlight"));
+    m_time->setCaption(tr("After", "that time the backlight goes off"));
+    m_brightnessName->setText(tr("Brightness"));
+    m_times.clear(); // the items are texts too
+    showTime();
+}
+
+void CBacklightGroup::placeControls()
+{
+    m_title->setGeometry(16, 8, 576, 36);
+    m_enabled->setGeometry(16, 50, 282, 52);
+    m_time->setGeometry(310, 50, 282, 52);
+    m_brightnessName->setGeometry(24, 116, 196, 52);
+    m_brightnessValue->setGeometry(226, 116, 72, 52);
+    m_darker->setGeometry(310, 116, 56, 52);
+    m_brightness->setGeometry(376, 130, 150, 24);
+    m_brighter->setGeometry(536, 116, 56, 52);
+}
+
+void CBacklightGroup::write(CSystemSettings::SystemAttribute attribute, const QVariant& value)
+{
+    // What an earlier process stored is text; compared as what is to be written.
+    QVariant stored = store()->getAttribute(attribute);
+    if (stored.convert(value.userType()) && stored == value)
+        return;
+    store()->setAttribute(attribute, value, true);
+    store()->setAttribute(m_source.changed, true, true);
+}
+
+void CBacklightGroup::stepBrightness(int direction)
+{
+    const int value = store()->getAttribute(m_source.brightness).toInt();
+    const int stepped = steppedBrightness(value, direction);
+    if (stepped != value)
+        write(m_source.brightness, stepped);
+}
+
+void CBacklightGroup::follow(CSystemSettings::SystemAttribute attribute)
+{
+    if (attribute == m_source.enabled)
+        showEnabled();
+    else if (attribute == m_source.time)
+        showTime();
+    else if (attribute == m_source.brightness)
+        showBrightness();
+}
+
+void CBacklightGroup::showEnabled()
+{
+    m_enabled->setChecked(store()->getAttribute(m_source.enabled).toBool());
+}
+
+void CBacklightGroup::showTime()
+{
+    const int seconds = store()->getAttribute(m_source.time).toInt();
+    // An unusual time stays on offer after another is chosen: the list is still open then.
+    if (!m_times.contains(seconds)) {
+        m_times = timesWith(seconds);
+        QStringList items;
+        for (const int time : qAsConst(m_times))
+            items << timeText(time);
+        m_time->addItems(items);
+    }
+    m_time->setCurrentIndex(m_times.indexOf(seconds));
+}
+
+void CBacklightGroup::showBrightness()
+{
+    const int value = store()->getAttribute(m_source.brightness).toInt();
+    m_brightness->setValue(qBound(0, value, BrightnessMax));
+    m_brightnessValue->setText(tr("%1 %", "brightness").arg(value));
+    m_darker->setEnabled(value > 0);
+    m_brighter->setEnabled(value < BrightnessMax);
+}

@@ -1,0 +1,8 @@
+#include "backlightplugin.h"
+
+#include "backlightpage.h"
+
+CWidget* CBacklightPlugin::createPage(QWidget* parent)
+{
+    return new CBacklightPage(parent);
+}
