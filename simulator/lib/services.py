@@ -7,12 +7,13 @@ import time
 
 RUN = "/run/instrument"
 BUS = "/run/dbus/system_bus_socket"
+TOOLS = RUN + "/bin"  # links: a directory of the checkout could not stand in PATH whatever its name
 START_LIMIT_S = 20
 IGNORED_BY_PYTHON = (signal.SIGPIPE, signal.SIGXFSZ)
 
 # Directories that exist on a unit after power-on.
 DIRECTORIES = (
-    "/home/root", "/home/arvo/arvo-prof/arvoglobal-setting", "/home/usbd", "/run/dbus", RUN,
+    "/home/root", "/home/arvo/arvo-prof/arvoglobal-setting", "/home/usbd", "/run/dbus", TOOLS,
     "/tmp/var/dev", "/tmp/var/etc", "/tmp/var/log", "/tmp/var/sim",
     "/tmp/var/lib/usbd", "/tmp/var/lib/vnc", "/tmp/var/lib/wmsv",
     "/usr/local/arvo/bin", "/usr/local/arvo/plugins", "/usr/local/module",
@@ -31,6 +32,10 @@ def populate(source, build):
     runtime = "/run/user/%d" % os.geteuid()
     os.makedirs(runtime, mode=0o700, exist_ok=True)
     shutil.copytree(os.path.join(source, "simulator/rootfs/usr/local/arvo"), "/usr/local/arvo", dirs_exist_ok=True)
+    for tool in ("simulator/simctl", "simulator/tour"):
+        os.symlink(os.path.join(source, tool), os.path.join(TOOLS, os.path.basename(tool)))
+    for tool in ("globalsegment", "platformd"):
+        os.symlink(os.path.join(build, "simulator", tool), os.path.join(TOOLS, tool))
     plugins = os.path.join(build, "plugins")
     if os.path.isdir(plugins):
         for entry in os.scandir(plugins):
@@ -60,7 +65,7 @@ def environment(source, build, runtime, has_screen):
         HOME="/home/root", USER="root", LOGNAME="root", LANG="C.UTF-8", XDG_RUNTIME_DIR=runtime,
         QT_QPA_PLATFORM="xcb" if has_screen else "offscreen",
         INSTRUMENT_SOURCE=source, INSTRUMENT_BUILD=build,
-        PATH="%s/simulator:%s/simulator:/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin" % (source, build))
+        PATH="%s:/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin" % TOOLS)
     result.pop("TMPDIR", None)
     return result
 

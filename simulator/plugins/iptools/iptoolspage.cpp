@@ -1,0 +1,129 @@
+#include "iptoolspage.h"
+
+#include "hostaddress.h"
+#include "outputview.h"
+#include "widgets/checkbox/checkbox.h"
+#include "widgets/label/label.h"
+#include "widgets/messagebox/messagebox.h"
+#include "widgets/parmlineedit/parmlineedit.h"
+#include "widgets/pushbutton/pushbutton.h"
+#include "widgets/widgetstyle/widgetstyle.h"
+
+namespace {
+
+constexpr int ADDRESS_LIMIT = 253; // characters of the longest host name
+
+// Geometry in the working area, 640 by 400.
+const QRect ADDRESS(16, 14, 356, 44);
+const QRect BACKGROUND(384, 14, 240, 44);
+const QRect PING(16, 68, 112, 44);
+const QRect TRACE(136, 68, 112, 44);
+const QRect STOP(256, 68, 116, 44);
+const QRect STATE(384, 68, 240, 44);
+const QRect OUTPUT(16, 122, 548, 264);
+const QRect PAGE_UP(576, 122, 48, 127);
+const QRect PAGE_DOWN(576, 259, 48, 127);
+
+} // namespace
+
+CIpToolsPage::CIpToolsPage(CProbe* probe, QWidget* parent)
+    : CWidget(parent)
+    , m_pProbe(probe)
+    , m_pAddress(new CParmLineEdit(QString(), probe->address(), this))
+    , m_pBackground(new CCheckBox(this))
+    , m_pPing(new CPushButton(this))
+    , m_pTrace(new CPushButton(this))
+    , m_pStop(new CPushButton(this))
+    , m_pState(new CLabel(this))
+    , m_pOutput(new COutputView(this))
+    , m_pPageUp(new CPushButton(QStringLiteral("\u25b2"), this))
+    , m_pPageDown(new CPushButton(QStringLiteral("\u25bc"), this))
+{
+    setObjectName(QStringLiteral("ipToolsPage"));
+    setBackgroundColor(CWidgetStyle::ColorScreen);
+    setBorderColor(CWidgetStyle::ColorFrame);
+    setBorderWidth(0, 1, 1, 1);
+
+    const struct
+    {
+        QWidget* widget;
+        const char* name;
+        QRect geometry;
+    } parts[] = {
+        {m_pAddress, "address", ADDRESS},
+        {m_pBackground, "background", BACKGROUND},
+        {m_pPing, "ping", PING},
+        {m_pTrace, "trace", TRACE},
+        {m_pStop, "stop", STOP},
+        {m_pState, "state", STATE},
+        {m_pOutput, "output", OUTPUT},
+        {m_pPageUp, "pageUp", PAGE_UP},
+        {m_pPageDown, "pageDown", PAGE_DOWN},
+    };
+    for (const auto& part : parts) {
+        part.widget->setObjectName(QLatin1String(part.name));
+        part.widget->setGeometry(part.geometry);
+    }
+    m_pAddress->setSKPType(CKeyPadFactory::KeyPadAddress);
+    m_pAddress->setMaxLength(ADDRESS_LIMIT);
+    m_pState->setTextColor(CWidgetStyle::ColorTextMuted);
+
+    connect(m_pPing, &CPushButton::clicked, this, [this] { run(CProbe::Ping); });
+    connect(m_pTrace, &CPushButton::clicked, this, [this] { run(CProbe::Trace); });
+    connect(m_pStop, &CPushButton::clicked, m_pProbe, &CProbe::stop);
+    connect(m_pPageUp, &CPushButton::clicked, this, [this] { m_pOutput->scrollPages(-1); });
+    connect(m_pPageDown, &CPushButton::clicked, this, [this] { m_pOutput->scrollPages(1); });
+    connect(m_pOutput, &COutputView::scrolled, this, [this] {
+        m_pPageUp->setEnabled(m_pOutput->canScrollBack());
+        m_pPageDown->setEnabled(m_pOutput->canScrollOn());
+    });
+    connect(m_pProbe, &CProbe::changed, this, &CIpToolsPage::showRun);
+    translate();
+}
+
+bool CIpToolsPage::isBackgroundRun() const
+{
+    return m_pBackground->isChecked();
+}
+
+void CIpToolsPage::setBackgroundRun(bool on)
+{
+    m_pBackground->setChecked(on);
+}
+
+void CIpToolsPage::translate()
+{
+    m_pAddress->setCaption(tr("Address"));
+    m_pBackground->setText(tr("Run in background"));
+    m_pPing->setText(tr("Ping"));
+    m_pTrace->setText(tr("Trace"));
+    m_pStop->setText(tr("Stop"));
+    CWidget::translate();
+    showRun();
+}
+
+void CIpToolsPage::run(CProbe::Tool tool)
+{
+    const QString address = m_pAddress->text().trimmed();
+    if (!isHostAddress(address)) {
+        CMessageBox box(
+            tr("IP Tools"), tr("Please enter an IP address or a host name."), CMessageBox::Ok, this);
+        box.setTitleBackgroundColor(CWidgetStyle::ColorAlert);
+        box.setMessageAlignment(Qt::AlignCenter);
+        box.exec();
+        return;
+    }
+    m_pProbe->start(tool, address);
+}
+
+void CIpToolsPage::showRun()
+{
+    const bool isRunning = m_pProbe->isRunning();
+    m_pPing->setEnabled(!isRunning);
+    m_pTrace->setEnabled(!isRunning);
+    m_pStop->setEnabled(isRunning);
+    m_pState->setText(isRunning ? tr("Running: %1").arg(m_pProbe->address()) : tr("Ready"));
+    m_pOutput->setLines(m_pProbe->lines());
+    m_pPageUp->setEnabled(m_pOutput->canScrollBack());
+    m_pPageDown->setEnabled(m_pOutput->canScrollOn());
+}

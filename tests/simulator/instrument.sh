@@ -1,0 +1,163 @@
+#!/bin/sh
+# Runs instruments from outside and checks what they may and may not do to the machine.
+#
+#   instrument.sh CHECKOUT BUILD
+set -u
+checkout=$1
+build=$2
+scratch=$(mktemp -d "/tmp/instrument test,1:XXXXXX") # characters that mount options give a meaning to
+elsewhere=$(mktemp -d "/var/tmp/instrument.XXXXXX")
+trap 'rm -rf "$scratch" "$elsewhere"' EXIT
+failures=0
+
+instrument() {
+    "$checkout/simulator/instrument" --build "$build" "$@"
+}
+
+bare() {
+    instrument --profile bare "$@"
+}
+
+# expect WHAT EXPECTED ACTUAL
+expect() {
+    if [ "$2" = "$3" ]; then
+        echo "ok      $1"
+    else
+        failures=$((failures + 1))
+        printf 'FAILED  %s\n        expected: %s\n        actual:   %s\n' "$1" "$2" "$3"
+    fi
+}
+
+# within WHAT COMMAND...: COMMAND succeeds within 20 s
+within() {
+    what=$1
+    shift
+    tries=400
+    until "$@"; do
+        tries=$((tries - 1))
+        if [ $tries -eq 0 ]; then
+            expect "$what" 'in time' 'never'
+            return
+        fi
+        sleep 0.05
+    done
+    expect "$what" 'in time' 'in time'
+}
+
+status_of() {
+    "$@" >/dev/null 2>&1
+    echo $?
+}
+
+# Exit status
+expect 'exit status of the command' 7 "$(status_of bare -- sh -c 'exit 7')"
+expect 'status of a killed command' 139 "$(status_of bare -- sh -c 'kill -SEGV $$')"
+expect 'status of a missing command' 127 "$(status_of bare -- no-such-command)"
+expect 'arguments arrive as they are' 'a b|--build|' "$(bare -- printf '%s|' 'a b' --build)"
+expect 'a build directory that is not there' 125 "$(status_of "$checkout/simulator/instrument" --build /nowhere -- true)"
+
+# Nothing of the machine can be written
+for place in "$checkout" "$build" / /etc /usr /usr/local /usr/share /var /var/log /opt /root /sys; do
+    [ -d "$place" ] || continue
+    expect "no file can be made in $place" refused \
+        "$(bare -- sh -c 'if touch "$1/made-by-a-test"; then echo written; else echo refused; fi' sh "$place" 2>/dev/null)"
+done
+expect 'no kernel setting can be changed' refused \
+    "$(bare -- sh -c 'if echo x >/proc/sys/kernel/domainname; then echo changed; else echo refused; fi' 2>/dev/null)"
+expect 'no disk is in reach' '' "$(bare -- find /dev -type b)"
+expect 'processes of the machine are out of reach' gone "$(bare -- sh -c "kill -0 $$ || echo gone" 2>/dev/null)"
+expect 'shared memory is private' different \
+    "$([ "$(bare -- readlink /proc/self/ns/ipc)" = "$(readlink /proc/self/ns/ipc)" ] && echo same || echo different)"
+touch "$scratch/of-the-machine"
+expect 'files of the machine in /tmp are hidden' hidden \
+    "$(bare -- sh -c 'if [ -e "$1" ]; then echo seen; else echo hidden; fi' sh "$scratch/of-the-machine")"
+bare -- sh -c 'for d in /home /tmp /run /var/tmp /dev/shm /usr/local/module /usr/local/arvo/plugins; do
+    echo x >$d/instrument-test-file || exit 1; done' || expect 'places of a unit are writable' writable refused
+for place in /home /tmp /run /var/tmp /dev/shm /usr/local/module; do
+    [ ! -e $place/instrument-test-file ] || expect "what is written to $place stays inside" inside outside
+done
+
+# A checkout below a covered place stays visible, and read-only
+for place in "$scratch" "$elsewhere"; do
+    cp -r "$checkout/simulator" "$place/simulator"
+    copy="$place/simulator/instrument"
+    expect "checkout in $place is visible" visible \
+        "$("$copy" --build "$build" --profile bare -- sh -c 'simctl status >/dev/null && [ -e "$1" ] && echo visible' \
+            sh "$copy")"
+    expect "checkout in $place is read-only" 1 \
+        "$(status_of "$copy" --build "$build" --profile bare -- touch "$copy")"
+done
+
+# The segment
+expect 'size of the segment' 'size 1024' "$(bare -- sh -c 'simctl segment show | head -n 1')"
+expect 'segment of another size' 'size 100' "$(bare --segment-size 100 -- sh -c 'simctl segment show | head -n 1')"
+expect 'no segment' 1 "$(status_of bare --without segment -- simctl segment show)"
+
+# What is to stay
+mkdir "$scratch/out"
+bare --out "$scratch/out" -- sh -c 'echo kept >"$1/file"' sh "$scratch/out"
+expect 'an output directory is written through' kept "$(cat "$scratch/out/file")"
+bare --state "$scratch/state" -- sh -c 'echo kept >/home/root/file; echo kept >/tmp/var/etc/file'
+expect 'a kept state is found again' 'kept kept' \
+    "$(bare --state "$scratch/state" -- sh -c 'echo $(cat /home/root/file /tmp/var/etc/file)')"
+expect 'without one every instrument is fresh' fresh "$(bare -- sh -c '[ -e /home/root/file ] || echo fresh')"
+
+# Signals and the end
+mkfifo "$scratch/out/ready"
+# Directly, not through a function: the signal is for the instrument, not for a subshell around it.
+"$checkout/simulator/instrument" --build "$build" --profile bare --out "$scratch/out" -- \
+    sh -c 'trap "exit 5" TERM; echo >"$1/ready"; while :; do sleep 0.05; done' \
+    sh "$scratch/out" &
+outer=$!
+read -r _ <"$scratch/out/ready"
+kill -TERM $outer
+wait $outer
+expect 'a signal reaches the command' 5 $?
+
+# Two side by side, then one is killed the hard way
+"$checkout/simulator/instrument" --build "$build" --profile screen --out "$scratch/out" -- \
+    sh -c 'echo $DISPLAY >"$1/ready"; exec sleep 86399' \
+    sh "$scratch/out" &
+outer=$!
+read -r display <"$scratch/out/ready"
+expect 'screens side by side are different' different \
+    "$(instrument --profile screen -- sh -c '[ "$DISPLAY" = "$1" ] && echo same || echo different' sh "$display")"
+inside=$(pgrep -f '^sleep 86399$')
+kill -KILL $outer
+wait $outer 2>/dev/null
+gone() {
+    ! kill -0 "$inside" 2>/dev/null && ! grep -q "@/tmp/.X11-unix/X${display#:}\$" /proc/net/unix
+}
+within 'nothing outlives a killed instrument' gone
+
+# simctl
+while IFS='|' read -r knob shown; do
+    # shellcheck disable=SC2086 # words of the knob
+    expect "adapter after wifi $knob" yes "$(bare -- sh -c 'simctl wifi $1
+        iwconfig wlan0 2>&1 | grep -q "$2" && echo yes' sh "$knob" "$shown")"
+done <<'TABLE'
+off|No such device
+idle|Mode:Managed  Access Point: Not-Associated
+link 70|Link Quality=70/100
+link 0|Access Point: [0-9A-F:]\{17\}
+TABLE
+for line in 'wifi' 'wifi on' 'wifi link' 'wifi link 101' 'wifi link -1' 'usb' 'usb eject' 'fail' 'fail 0' 'fail 12' \
+    'segment' 'daemon stop' 'viewers x' 'nonsense'; do
+    # shellcheck disable=SC2086
+    message=$(bare -- sh -c 'simctl $1 2>&1 >/dev/null || echo "status $?"' sh "$line" | tail -n 2)
+    case $message in
+    simctl:*'status 2') expect "refused: simctl $line" told told ;;
+    *) expect "refused: simctl $line" 'a message and status 2' "$message" ;;
+    esac
+done
+
+# Without namespaces
+before=$(ls -d /tmp/instrument-* 2>/dev/null)
+expect 'proot: tree and segment' 'size 1024' "$(instrument --backend proot --profile bare -- sh -c '
+    stat /usr/local/arvo/plugins /home/root >/dev/null && simctl wifi idle && iwconfig wlan0 >/dev/null &&
+        simctl segment show | head -n 1')"
+expect 'proot: exit status' 6 "$(status_of instrument --backend proot --profile bare -- sh -c 'exit 6')"
+expect 'proot: no scratch left' "$before" "$(ls -d /tmp/instrument-* 2>/dev/null)"
+
+[ $failures -eq 0 ] || echo "$failures failed"
+exit $((failures > 0))
