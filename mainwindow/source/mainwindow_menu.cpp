@@ -118,6 +118,7 @@ void CMainWindow::itemChanged(int id)
             CMessageBox box(
                 tr("Error"), tr("Cannot find USB drive attached to the unit!"), CMessageBox::Ok, this);
             box.setMessageAlignment(Qt::AlignCenter);
+            box.setTitleBackgroundColor(CWidgetStyle::ColorAlert);
             box.setTitleTextSize(20);
             box.setMessageTextColor(9);
             execBox(box);

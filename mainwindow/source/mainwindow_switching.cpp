@@ -9,6 +9,7 @@
 #include "taskmanager.h"
 #include "utilinterface.h"
 #include "widgets/messagebox/messagebox.h"
+#include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -134,6 +135,7 @@ void CMainWindow::connectPluginSignals(QObject* object)
 void CMainWindow::showPluginError(const QString& text)
 {
     CMessageBox box(tr("Load plugin"), text, CMessageBox::Ok, this);
+    box.setTitleBackgroundColor(CWidgetStyle::ColorAlert);
     execBox(box);
 }
 

@@ -1,15 +1,10 @@
-#include "startup.h"
-
-#undef None
-#undef Bool
-#undef Status
-
-#include "commutils.h"
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
+
+#include "startup.h"
+#include "widgets/widgetstyle/widgetstyle.h"
 
 namespace {
 
@@ -47,6 +42,7 @@ class TestConfiguration : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void everythingIsMadeFromNothing();
     void goodFilesAreLeftAlone();
@@ -56,6 +52,12 @@ private slots:
     void readOnlyDirectoryEndsTheRecovery();
     void unusableDirectory();
 };
+
+void TestConfiguration::initTestCase()
+{
+    // The theme's default is a resource of the control library, which is only there when something uses it.
+    QVERIFY(CWidgetStyle::getColor(CWidgetStyle::ColorScreen).isValid());
+}
 
 void TestConfiguration::init()
 {

@@ -112,7 +112,8 @@ void TestPluginManager::utilities()
     QFETCH(QString, library);
     CPluginManager manager;
     const auto util = UtilityID(id);
-    QCOMPARE(manager.getPluginFileName(util), library.isEmpty() ? QString() : DIRECTORY + '/' + library);
+    QCOMPARE(manager.getPluginFileName(util),
+        library.isEmpty() ? QString() : DIRECTORY + QLatin1Char('/') + library);
     QTEST(manager.getPluginName(util), "name");
     QTEST(manager.isPlugin(util), "isPlugin");
     QTEST(manager.isPluginReleased(util), "isReleased");
@@ -164,9 +165,9 @@ void TestPluginManager::lastLoadedIsDriven()
 
 void TestPluginManager::noInterface()
 {
-    install("libfixture_nointerface.so", "libharbor.so");
+    install("libfixture_nointerface.so", "libodmtool.so");
     CPluginManager manager;
-    QVERIFY(!manager.loadPlugin(UTILITY_ID_HARBOR));
+    QVERIFY(!manager.loadPlugin(UTILITY_ID_ODMTOOL));
     QVERIFY(!manager.unloadPlugin()); // the library is loaded, and there is nothing to stop
     manager.setPluginWindowVisible(true);
 }

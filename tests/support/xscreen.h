@@ -2,43 +2,36 @@
 
 #include <QColor>
 #include <QPoint>
+#include <QVector>
 
-#include <X11/Xlib.h>
-#include <X11/Xutil.h>
+struct _XDisplay;
+
+/** The shell's window as the X server has it: found by its application index property. */
+struct ShellWindow
+{
+    unsigned long id = 0; ///< 0 when there is none
+    QPoint position; ///< on the screen
+    int appIndex = -1; ///< -1 when the property is not one 32-bit integer
+};
 
 /**
- * Reads the screen as a person sees it, through an X connection of its own, so that it works while the event
- * loop of the program under test stands still and from another thread.
+ * Reads the screen as a person sees it, through an X connection of its own: it works while the event loop of
+ * the program under test stands still, and from another thread.
  */
 class CXScreen
 {
 public:
-    CXScreen()
-        : m_display(XOpenDisplay(nullptr))
-    { }
-    ~CXScreen()
-    {
-        if (m_display)
-            XCloseDisplay(m_display);
-    }
+    CXScreen();
+    ~CXScreen();
     CXScreen(const CXScreen&) = delete;
     CXScreen& operator=(const CXScreen&) = delete;
 
-    bool isOpen() const { return m_display != nullptr; }
-    Display* display() const { return m_display; }
-
     /** Colour of one pixel of the root window; invalid when it cannot be read. */
-    QColor pixel(const QPoint& at) const
-    {
-        XImage* image
-            = XGetImage(m_display, DefaultRootWindow(m_display), at.x(), at.y(), 1, 1, AllPlanes, ZPixmap);
-        if (!image)
-            return {};
-        const QColor color(QRgb(XGetPixel(image, 0, 0)));
-        XDestroyImage(image);
-        return color;
-    }
+    QColor pixel(const QPoint& at) const;
+    ShellWindow findShellWindow() const;
+    /** The application index property of a window; -1 when it is not one 32-bit integer. */
+    int appIndexOf(unsigned long window) const;
 
 private:
-    Display* m_display;
+    _XDisplay* m_display;
 };

@@ -1,8 +1,8 @@
 #include "shellprocess.h"
 
-#include <QTest>
+#include "xscreen.h"
 
-#include <X11/Xatom.h>
+#include <QTest>
 
 #include <csignal>
 
@@ -11,45 +11,7 @@ namespace {
 constexpr int START_LIMIT = 10000; // ms
 const QColor TOP_BAR(181, 199, 239);
 
-void searchTree(Display* display, Window window, Atom atom, ShellWindow& found)
-{
-    Atom type = 0;
-    int format = 0;
-    unsigned long count = 0;
-    unsigned long rest = 0;
-    unsigned char* data = nullptr;
-    if (XGetWindowProperty(
-            display, window, atom, 0, 32, False, XA_INTEGER, &type, &format, &count, &rest, &data)
-            == 0
-        && count == 1) {
-        Window child = 0;
-        int x = 0;
-        int y = 0;
-        XTranslateCoordinates(display, window, DefaultRootWindow(display), 0, 0, &x, &y, &child);
-        found = {window, {x, y}, int(*reinterpret_cast<long*>(data))};
-    }
-    if (data)
-        XFree(data);
-    Window root = 0;
-    Window parent = 0;
-    Window* children = nullptr;
-    unsigned int childCount = 0;
-    if (XQueryTree(display, window, &root, &parent, &children, &childCount) && children) {
-        for (unsigned int i = 0; i < childCount && !found.id; ++i)
-            searchTree(display, children[i], atom, found);
-        XFree(children);
-    }
-}
-
 } // namespace
-
-ShellWindow findShellWindow(const CXScreen& screen)
-{
-    ShellWindow found;
-    searchTree(screen.display(), DefaultRootWindow(screen.display()),
-        XInternAtom(screen.display(), "_TAVOPROP_APPINDEX", False), found);
-    return found;
-}
 
 CShellProcess::CShellProcess(const QStringList& environment)
 {
@@ -59,6 +21,7 @@ CShellProcess::CShellProcess(const QStringList& environment)
     m_process.setProcessEnvironment(all);
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     m_process.start(QStringLiteral(MAINFRAME_PROGRAM), QStringList());
+    m_process.waitForStarted();
 }
 
 CShellProcess::~CShellProcess()

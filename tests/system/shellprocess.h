@@ -1,7 +1,5 @@
 #pragma once
 
-#include "xscreen.h"
-
 #include <QProcess>
 #include <QString>
 
@@ -30,12 +28,3 @@ private:
     QProcess m_process;
     QByteArray m_log;
 };
-
-/** The shell's window as the X server has it: found by its application index property. */
-struct ShellWindow
-{
-    Window id = 0;
-    QPoint position; // on the screen
-    int appIndex = -1;
-};
-ShellWindow findShellWindow(const CXScreen& screen);
