@@ -7,15 +7,14 @@
 
 #include <QIcon>
 #include <QPainter>
-#include <QSysInfo>
 #include <QTimerEvent>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace {
 
 constexpr int RefreshInterval = 1000; // ms
-constexpr int RowsPerPage = 11;
 constexpr int RowHeight = 34;
 constexpr int Margin = 13;
 constexpr int NameLeft = 12; // in the row
@@ -23,6 +22,7 @@ constexpr int ValueLeft = 232;
 constexpr int Gap = 12; // between columns
 constexpr int PagerWidth = 56;
 constexpr int PagerButtonHeight = 64;
+constexpr int PositionHeight = 30;
 
 QString uptimeText(qint64 seconds)
 {
@@ -65,16 +65,6 @@ CAboutPage::CAboutPage(const QString& pluginVersion, QWidget* parent)
     , m_down(new CPushButton(this))
     , m_position(new CLabel(this))
 {
-    for (int i = 0; i < RowsPerPage; ++i) {
-        auto* band = new CWidget(this);
-        const RowLabels labels{band, new CLabel(band), new CLabel(band)};
-        if (i % 2 == 0)
-            band->setBackgroundColor(CWidgetStyle::ColorToolBox);
-        labels.name->setTextColor(CWidgetStyle::ColorTextMuted);
-        labels.name->setObjectName(QStringLiteral("name"));
-        labels.value->setObjectName(QStringLiteral("value"));
-        m_labels << labels;
-    }
     m_position->setAlignment(Qt::AlignCenter);
     m_up->setObjectName(QStringLiteral("up"));
     m_down->setObjectName(QStringLiteral("down"));
@@ -123,7 +113,7 @@ void CAboutPage::timerEvent(QTimerEvent* event)
 void CAboutPage::resizeEvent(QResizeEvent* event)
 {
     CWidget::resizeEvent(event);
-    placeControls();
+    refresh();
 }
 
 QVector<CAboutPage::Row> CAboutPage::readRows() const
@@ -132,7 +122,7 @@ QVector<CAboutPage::Row> CAboutPage::readRows() const
     QVector<Row> rows{
         {tr("Shell version"), QStringLiteral(SHELL_VERSION)},
         {tr("Qt version"), QString::fromLatin1(qVersion())},
-        {tr("Kernel"), QSysInfo::kernelType() + QLatin1Char(' ') + QSysInfo::kernelVersion()},
+        {tr("Kernel"), readKernel()},
         {tr("Version of this page"), m_pluginVersion},
         {tr("Running for"), uptimeText(readUptime())},
         {tr("Memory"), memoryText(memory.total)},
@@ -153,44 +143,60 @@ QVector<CAboutPage::Row> CAboutPage::readRows() const
 void CAboutPage::refresh()
 {
     const QVector<Row> rows = readRows();
-    const int pageCount = std::max(1, (rows.size() + RowsPerPage - 1) / RowsPerPage);
-    m_page = std::min(m_page, pageCount - 1); // an interface may have gone down
-    for (int i = 0; i < RowsPerPage; ++i) {
-        const int index = m_page * RowsPerPage + i;
-        m_labels[i].name->setText(rows.value(index).first);
-        m_labels[i].value->setText(rows.value(index).second);
-        m_labels[i].band->setVisible(index < rows.size());
+    const int rowsPerPage = std::max(1, (height() - 2 * Margin) / RowHeight);
+    m_pageCount = (rows.size() + rowsPerPage - 1) / rowsPerPage;
+    m_page = qBound(0, m_page, m_pageCount - 1); // an interface may have gone down
+
+    addLabels(rowsPerPage);
+    for (int i = 0; i < m_labels.size(); ++i) {
+        const int index = m_page * rowsPerPage + i;
+        const bool isUsed = i < rowsPerPage && index < rows.size();
+        m_labels[i].band->setVisible(isUsed);
+        if (isUsed) {
+            m_labels[i].name->setText(rows[index].first);
+            m_labels[i].value->setText(rows[index].second);
+        }
     }
-    m_up->setVisible(pageCount > 1);
-    m_down->setVisible(pageCount > 1);
-    m_position->setVisible(pageCount > 1);
+    for (QWidget* widget : std::initializer_list<QWidget*>{m_up, m_down, m_position})
+        widget->setVisible(m_pageCount > 1);
     m_up->setEnabled(m_page > 0);
-    m_down->setEnabled(m_page < pageCount - 1);
-    m_position->setText(QStringLiteral("%1/%2").arg(m_page + 1).arg(pageCount));
-    if (m_pageCount != pageCount) {
-        m_pageCount = pageCount;
-        placeControls();
+    m_down->setEnabled(m_page < m_pageCount - 1);
+    m_position->setText(QStringLiteral("%1/%2").arg(m_page + 1).arg(m_pageCount));
+    placeControls(rowsPerPage);
+}
+
+void CAboutPage::addLabels(int count)
+{
+    while (m_labels.size() < count) {
+        auto* band = new CWidget(this);
+        const RowLabels labels{band, new CLabel(band), new CLabel(band)};
+        if (m_labels.size() % 2 == 0)
+            band->setBackgroundColor(CWidgetStyle::ColorToolBox);
+        labels.name->setTextColor(CWidgetStyle::ColorTextMuted);
+        labels.name->setObjectName(QStringLiteral("name"));
+        labels.value->setObjectName(QStringLiteral("value"));
+        m_labels << labels;
     }
 }
 
-void CAboutPage::turnPage(int by)
+void CAboutPage::placeControls(int rowsPerPage)
 {
-    m_page = qBound(0, m_page + by, m_pageCount - 1);
-    refresh();
-}
-
-void CAboutPage::placeControls()
-{
-    const QRect area = rect().adjusted(Margin, Margin, -Margin, -Margin);
+    const QRect area(Margin, Margin, width() - 2 * Margin, rowsPerPage * RowHeight);
     const int rowWidth = area.width() - (m_pageCount > 1 ? PagerWidth + Gap : 0);
-    for (int i = 0; i < RowsPerPage; ++i) {
+    for (int i = 0; i < m_labels.size(); ++i) {
         m_labels[i].band->setGeometry(area.left(), area.top() + i * RowHeight, rowWidth, RowHeight);
         m_labels[i].name->setGeometry(NameLeft, 0, ValueLeft - NameLeft - Gap, RowHeight);
         m_labels[i].value->setGeometry(ValueLeft, 0, rowWidth - ValueLeft - Gap, RowHeight);
     }
-    QRect pager(area.right() + 1 - PagerWidth, area.top(), PagerWidth, PagerButtonHeight);
-    m_up->setGeometry(pager);
-    m_down->setGeometry(pager.translated(0, RowsPerPage * RowHeight - PagerButtonHeight));
-    m_position->setGeometry(
-        pager.left(), pager.bottom() + 1, PagerWidth, RowsPerPage * RowHeight - 2 * PagerButtonHeight);
+    const QRect pager(area.right() + 1 - PagerWidth, area.top(), PagerWidth, area.height());
+    const int buttonHeight = qBound(0, (pager.height() - PositionHeight) / 2, PagerButtonHeight);
+    m_up->setGeometry(pager.adjusted(0, 0, 0, buttonHeight - pager.height()));
+    m_down->setGeometry(pager.adjusted(0, pager.height() - buttonHeight, 0, 0));
+    m_position->setGeometry(pager.adjusted(0, buttonHeight, 0, -buttonHeight));
+}
+
+void CAboutPage::turnPage(int by)
+{
+    m_page += by;
+    refresh();
 }

@@ -44,8 +44,9 @@ private:
 
     QVector<Row> readRows() const;
     void refresh();
+    void addLabels(int count);
+    void placeControls(int rowsPerPage);
     void turnPage(int by);
-    void placeControls();
 
     QString m_pluginVersion;
     QVector<RowLabels> m_labels;

@@ -10,6 +10,7 @@
 #include <memory>
 #include <net/if.h>
 #include <netinet/in.h>
+#include <sys/utsname.h>
 
 namespace {
 
@@ -34,6 +35,14 @@ struct Interface
 };
 
 } // namespace
+
+QString readKernel()
+{
+    utsname names{};
+    if (::uname(&names) != 0)
+        return {};
+    return QString::fromLocal8Bit(names.sysname) + QLatin1Char(' ') + QString::fromLocal8Bit(names.release);
+}
 
 MemoryFacts parseMemory(const QByteArray& meminfo)
 {

@@ -19,6 +19,8 @@ struct InterfaceAddress
     QString address; ///< IPv4 or IPv6 in numbers
 };
 
+/** Name and release of the running kernel. */
+QString readKernel();
 /** From the text of "/proc/meminfo". */
 MemoryFacts parseMemory(const QByteArray& meminfo);
 /** Memory as of now. */
