@@ -222,9 +222,11 @@ void CDialog::moveMarker(int arrowKey)
 QList<CPushButton*> CDialog::touchableButtons() const
 {
     QList<CPushButton*> buttons = findChildren<CPushButton*>();
-    buttons.erase(
-        std::remove_if(buttons.begin(), buttons.end(),
-            [this](const CPushButton* button) { return !button->isVisibleTo(this) || !button->isEnabled(); }),
+    buttons.erase(std::remove_if(buttons.begin(), buttons.end(),
+                      [this](const CPushButton* button) {
+                          return !button->isVisibleTo(this) || !button->isEnabled()
+                              || button->testAttribute(Qt::WA_TransparentForMouseEvents);
+                      }),
         buttons.end());
     return buttons;
 }

@@ -3,18 +3,23 @@
 #include <QColor>
 #include <QProgressBar>
 
-/** A flat level bar with a border; a QProgressBar in its range and value. */
+/**
+ * A flat level bar with a one-pixel border, filled from the left; a QProgressBar in its range and value. The
+ * level is not written into it. Interface thread only. Owned by its Qt parent.
+ */
 class CProgressBar : public QProgressBar
 {
     Q_OBJECT
 
 public:
-    explicit CProgressBar(QWidget *parent = nullptr);
-    void setBorderColor(const QColor &color);
-    void setBarColor(const QColor &color);
+    explicit CProgressBar(QWidget* parent = nullptr);
+
+    /** Border and bar; an invalid colour takes the theme's frame and accent again. */
+    void setBorderColor(const QColor& color);
+    void setBarColor(const QColor& color);
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QColor m_border;
