@@ -72,8 +72,10 @@ CSystemSettings::CSystemSettings(QObject* parent)
 
     // The instance outlives the event loop, which else writes the file after each burst of changes.
     if (QCoreApplication::instance())
-        connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
-            [this] { m_settings.sync(); });
+        connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
+            const QMutexLocker locker(&m_storeMutex);
+            m_settings.sync();
+        });
 }
 
 CSystemSettings::~CSystemSettings()
@@ -87,9 +89,12 @@ void CSystemSettings::setAttribute(SystemAttribute attribute, const QVariant& va
         return;
     // A value that stays the same must not cost a write of the settings file: some are set every second.
     const QString key = storeKey(attribute);
-    const QVariant stored = m_settings.value(key);
-    if (stored.userType() != value.userType() || stored != value)
-        m_settings.setValue(key, value);
+    {
+        const QMutexLocker locker(&m_storeMutex);
+        const QVariant stored = m_settings.value(key);
+        if (stored.userType() != value.userType() || stored != value)
+            m_settings.setValue(key, value);
+    }
     if (save && isNeedSaveDef(attribute))
         saveAttribute(attribute, value);
     emit attributeChanged(attribute);
@@ -97,7 +102,10 @@ void CSystemSettings::setAttribute(SystemAttribute attribute, const QVariant& va
 
 QVariant CSystemSettings::getAttribute(SystemAttribute attribute) const
 {
-    return isValidAttribute(attribute) ? m_settings.value(storeKey(attribute)) : QVariant();
+    if (!isValidAttribute(attribute))
+        return QVariant();
+    const QMutexLocker locker(&m_storeMutex);
+    return m_settings.value(storeKey(attribute));
 }
 
 QString CSystemSettings::getAttributeName(SystemAttribute attribute)

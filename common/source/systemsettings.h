@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMap>
+#include <QMutex>
 #include <QObject>
 #include <QSettings>
 #include <QString>
@@ -14,8 +15,9 @@ struct stArvo_global_setting;
  * file; those that other processes of the instrument need are written into the shared block of global
  * settings as well. Every change is announced.
  *
- * One per process, reached through globalSettings() by the shell and its plug-ins. Interface thread. Without
- * a shared block (none there, or smaller than its record) everything but the other processes works; the log
+ * One per process, reached through globalSettings() by the shell and its plug-ins. Interface thread, but for
+ * getAttribute(), which any thread may call once the interface thread has made the instance. Without a shared
+ * block (none there, or smaller than its record) everything but the other processes works; the log
  * says so.
  */
 class CSystemSettings : public QObject
@@ -80,7 +82,9 @@ public:
      */
     void setAttribute(SystemAttribute attribute, const QVariant& value, bool save = true);
 
-    /** The stored value; an invalid one if there is none. What an earlier process stored is text. */
+    /** The stored value; an invalid one if there is none. What an earlier process stored is text.
+     * Thread-safe.
+     */
     QVariant getAttribute(SystemAttribute attribute) const;
 
     /**
@@ -113,6 +117,7 @@ private:
     void saveAttribute(SystemAttribute attribute, const QVariant& value);
     void loadSubAttributeString(const QDomElement& element);
 
+    mutable QMutex m_storeMutex; // one thread at a time at m_settings; never held while a signal goes out
     QSettings m_settings;
     stArvo_global_setting* m_pGlobalSetting = nullptr; // attached; null if there is none
     QMap<QString, SystemAttribute> m_attrStrMap; // by name in the defaults profile
