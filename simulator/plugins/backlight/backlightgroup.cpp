@@ -67,7 +67,6 @@ CBacklightGroup::CBacklightGroup(const Source& source, QWidget* parent)
     m_brightnessValue->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_brightnessValue->setObjectName(QStringLiteral("brightness"));
     m_brightness->setRange(0, BrightnessMax);
-    m_brightness->setTextVisible(false);
     m_darker->setObjectName(QStringLiteral("darker"));
     m_brighter->setObjectName(QStringLiteral("brighter"));
     for (CPushButton* button : {m_darker, m_brighter}) {
@@ -76,8 +75,8 @@ CBacklightGroup::CBacklightGroup(const Source& source, QWidget* parent)
     }
     placeControls();
     translate();
+    updateWidgetStyle();
     showEnabled();
-    showBrightness();
 
     // Only what the user does is written: following a change made elsewhere must not write it again.
     connect(m_enabled, &CCheckBox::clicked, this, [this](bool on) { write(m_source.enabled, on); });
@@ -99,6 +98,14 @@ void CBacklightGroup::translate()
     m_brightnessName->setText(tr("Brightness"));
     m_times.clear(); // the items are texts too
     showTime();
+    showBrightness();
+}
+
+void CBacklightGroup::updateWidgetStyle()
+{
+    // The bar's ground is white, on which the theme's accent is faint.
+    m_brightness->setBarColor(CWidgetStyle::getColor(CWidgetStyle::ColorPressed));
+    CWidget::updateWidgetStyle();
 }
 
 void CBacklightGroup::placeControls()

@@ -36,6 +36,7 @@ public:
 
 public slots:
     void translate() override;
+    void updateWidgetStyle() override;
 
 private:
     void placeControls();
