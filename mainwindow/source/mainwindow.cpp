@@ -5,17 +5,22 @@
 #include "fakedesktop.h"
 #include "homepage.h"
 #include "pluginman.h"
+#include "powermonitor.h"
 #include "settingmoremenu.h"
 #include "sigtransfer.h"
 #include "startutilwindow.h"
+#include "storagemonitor.h"
 #include "switchappwindow.h"
 #include "systemsettingsmenu.h"
 #include "taskmanager.h"
 #include "topbar.h"
+#include "touchwatch.h"
+#include "usbdmonitor.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/toolbox/toolbox.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -29,6 +34,7 @@ namespace {
 constexpr int BOTTOM_STRIP = 20; // the screen's height that the window leaves to a bottom bar
 constexpr int CENTRE_SHIFT = 4; // dialogs stand a little to the right of the exact centre
 constexpr int FAILURE_CHECK_PERIOD = 5000; // ms
+constexpr int SETTINGS_CHECK_PERIOD = 1000; // ms
 constexpr int APP_LAUNCH_PERIOD = 500; // ms
 
 void moveToCentre(QWidget* widget, int region)
@@ -50,7 +56,8 @@ CMainWindow::CMainWindow(QWidget* parent)
 
 CMainWindow::~CMainWindow()
 {
-    // The bars and menus that listen to the relay go first, then the relay.
+    // The monitor's thread ends first. The bars and menus that listen to the relay go before the relay.
+    delete m_pDevMonitor;
     qDeleteAll(findChildren<CWidget*>(QString(), Qt::FindDirectChildrenOnly));
     delete g_pSigTransfer;
     snTerminate.reset();
@@ -68,6 +75,9 @@ void CMainWindow::initialize()
 
     g_pSigTransfer = new CSigTransfer;
     connect(g_pSigTransfer, &CSigTransfer::currentUtilChanged, this, &CMainWindow::changeCurrentUtil);
+    connect(g_pSigTransfer, &CSigTransfer::queryPowerInfo, this, &CMainWindow::showPowerInfo);
+    connect(g_pSigTransfer, &CSigTransfer::queryStorageInfo, this, &CMainWindow::showStorageInfo);
+    connect(g_pSigTransfer, &CSigTransfer::queryBTInfo, this, &CMainWindow::showBTInfo);
     connect(this, &CMainWindow::lockStateChanged, g_pSigTransfer, &CSigTransfer::lockStateChanged);
 
     const QRect screen = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionScreen);
@@ -78,6 +88,8 @@ void CMainWindow::initialize()
     m_pTopBar->move(0, 0);
     connect(m_pTopBar, &CTopBar::homeTriggered, this, &CMainWindow::triggerHome);
     connect(m_pTopBar, &CTopBar::closeTriggered, this, &CMainWindow::triggerClose);
+    connect(m_pTopBar, &CTopBar::powerTriggered, this, &CMainWindow::showPowerInfo);
+    connect(m_pTopBar, &CTopBar::storageTriggered, this, &CMainWindow::showStorageInfo);
     connect(m_pTopBar, &CTopBar::wifiWiziTriggered, this, [this] { itemChanged(UTILITY_ID_WIFI_WIZARD); });
 
     setupToolBox();
@@ -88,8 +100,14 @@ void CMainWindow::initialize()
     qRegisterMetaType<AppInfo>("AppInfo");
     connect(m_pTaskMan, &CTaskManager::utilStarted, this, &CMainWindow::utilReady, Qt::QueuedConnection);
 
+    createDeviceMonitor();
     m_pPluginMan = new CPluginManager(this);
     createTimers();
+
+    // Touches on the controls do not come to the window itself, and wake the screen all the same.
+    auto* touchWatch = new CTouchWatch(this);
+    qApp->installEventFilter(touchWatch);
+    connect(touchWatch, &CTouchWatch::touched, this, &CMainWindow::wakeupScreen);
     QTimer::singleShot(0, this, &CMainWindow::postLaunch);
     setBackgroundColor(CWidgetStyle::ColorScreen);
 }
@@ -105,17 +123,22 @@ void CMainWindow::loadSysSettings()
 void CMainWindow::createTimers()
 {
     m_pSystemTimer = new QTimer(this);
+    m_pSystemTimer->setInterval(SETTINGS_CHECK_PERIOD);
+    connect(m_pSystemTimer, &QTimer::timeout, this, &CMainWindow::checkSystemSettings);
     m_pPowerOffTimer = new QTimer(this);
     m_pFailureServTimer = new QTimer(this);
     m_pFailureServTimer->setInterval(FAILURE_CHECK_PERIOD);
+    connect(m_pFailureServTimer, &QTimer::timeout, this, &CMainWindow::selftestPopup);
     m_pAppLaunchTimer = new QTimer(this);
     m_pAppLaunchTimer->setInterval(APP_LAUNCH_PERIOD);
     m_pSwitchDelayTimer = new QTimer(this);
     m_pSwitchDelayTimer->setSingleShot(true);
     m_pBatBacklightTimer = new QTimer(this);
-    m_pBatBacklightTimer->setSingleShot(true);
     m_pACBacklightTimer = new QTimer(this);
-    m_pACBacklightTimer->setSingleShot(true);
+    for (QTimer* timer : {m_pBatBacklightTimer, m_pACBacklightTimer}) {
+        timer->setSingleShot(true);
+        connect(timer, &QTimer::timeout, this, &CMainWindow::backlightTimeout);
+    }
     connect(this, &CMainWindow::windowVisibleChanged, this, &CMainWindow::setWindowVisible);
 }
 
@@ -140,6 +163,8 @@ void CMainWindow::createPages()
     m_pSettingMenu = addInnerPage(UTILITY_ID_SETTINGS, new CSystemSettingsMenu(this));
     m_pSettingMoreMenu = addInnerPage(UTILITY_ID_SETTING_MORE, new CSettingMoreMenu(this));
 
+    createInfoPages();
+
     m_pSwitchAppWnd = new CSwitchAppWindow(this);
     m_pSwitchAppWnd->hide();
     m_pSwitchAppWnd->move(CWidgetStyle::getScreenRegion(CWidgetStyle::RegionPageFrame).topLeft());
@@ -147,6 +172,46 @@ void CMainWindow::createPages()
     m_pHomePage = addInnerPage(UTILITY_ID_BEGIN, new CHomePage(this));
     m_pHomePage->show();
     m_pInnerUtilpage = m_pHomePage;
+}
+
+void CMainWindow::createInfoPages()
+{
+    m_pPowerMonitor = new CPowerMonitor(this);
+    m_pPowerMonitor->setWindowID(POPUP_WND_ID_INQUIRE_STAT_POWER);
+    m_pStorageMonitor = new CStorageMonitor(this);
+    m_pStorageMonitor->setWindowID(POPUP_WND_ID_INQUIRE_STAT_USB_DISK);
+    for (const CDialog* dialog :
+        {static_cast<CDialog*>(m_pPowerMonitor), static_cast<CDialog*>(m_pStorageMonitor)}) {
+        connect(dialog, &CDialog::popOn, this, &CMainWindow::dlgPopon);
+        connect(dialog, &CDialog::popOff, this, &CMainWindow::dlgPopoff);
+    }
+    connect(m_pStorageMonitor, &CStorageMonitor::installUSBDriveSig, this, &CMainWindow::installUSBDrive);
+    connect(m_pStorageMonitor, &CStorageMonitor::removeUSBDriveSig, this, &CMainWindow::removeUSBDrive);
+}
+
+void CMainWindow::createDeviceMonitor()
+{
+    m_pDevMonitor = new CUsbdMonitor(this);
+    qRegisterMetaType<PowerStatus>("PowerStatus");
+    qRegisterMetaType<BluetoothStatus>("BluetoothStatus");
+    qRegisterMetaType<StorageStatus>("StorageStatus");
+    qRegisterMetaType<WIFIStatus>("WIFIStatus");
+    qRegisterMetaType<OPMStatus>("OPMStatus");
+    qRegisterMetaType<GPSStatus>("GPSStatus");
+    qRegisterMetaType<DataCardStatus>("DataCardStatus");
+
+    using Monitor = CDeviceMonitor;
+    using Relay = CSigTransfer;
+    connect(m_pDevMonitor, &Monitor::powerStatusChanged, this, &CMainWindow::updatePowerStatus);
+    connect(m_pDevMonitor, &Monitor::storageStatusChanged, this, &CMainWindow::updateStorageStatus);
+    connect(m_pDevMonitor, &Monitor::wifiStatusChanged, this, &CMainWindow::updateWIFIStatus);
+    connect(m_pDevMonitor, &Monitor::powerStatusChanged, g_pSigTransfer, &Relay::powerStatusChanged);
+    connect(m_pDevMonitor, &Monitor::bluetoothStatusChanged, g_pSigTransfer, &Relay::bluetoothStatusChanged);
+    connect(m_pDevMonitor, &Monitor::storageStatusChanged, g_pSigTransfer, &Relay::storageStatusChanged);
+    connect(m_pDevMonitor, &Monitor::wifiStatusChanged, g_pSigTransfer, &Relay::wifiStatusChanged);
+    connect(m_pDevMonitor, &Monitor::opmStatusChanged, g_pSigTransfer, &Relay::opmStatusChanged);
+    connect(m_pDevMonitor, &Monitor::gpsStatusChanged, g_pSigTransfer, &Relay::gpsStatusChanged);
+    connect(m_pDevMonitor, &Monitor::dataCardStatusChanged, g_pSigTransfer, &Relay::dataCardStatusChanged);
 }
 
 QPoint CMainWindow::screenCenter()

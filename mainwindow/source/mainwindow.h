@@ -3,6 +3,8 @@
 #include "devicestatus.h"
 #include "languagecode.h"
 #include "menustack.h"
+#include "services/sysfailureserv.h"
+#include "statuscodes.h"
 #include "utilityid.h"
 #include "widgets/widget/widget.h"
 
@@ -13,12 +15,15 @@
 #include <memory>
 
 class CAdvanceMenu;
+class CDeviceMonitor;
 class CFakeDesktop;
 class CHomePage;
 class CMessageBox;
 class CPluginManager;
+class CPowerMonitor;
 class CSettingMoreMenu;
 class CStartUtilWindow;
+class CStorageMonitor;
 class CSwitchAppWindow;
 class CSystemSettingsMenu;
 class CTaskManager;
@@ -35,7 +40,8 @@ class QTranslator;
  *
  * It owns every page, bar and manager it makes, for the life of the process. Interface thread only, but for
  * signalHandler(). The class is spread over several files by concern: mainwindow.cpp (construction and
- * wiring), _settings, _menu, _switching, _visibility, _launch, _language, _signals.
+ * wiring), _menu, _switching, _visibility, _launch, _language, _signals, _navigation, _lock, _devices,
+ * _screen.
  *
  * A new built-in page is one line in createPages(); the utilities without one are logged as not available.
  */
@@ -87,6 +93,11 @@ public:
     /** False while a test application is in front. */
     bool isNeedInteractive() const { return m_winVisibleReason != TestAppForeground; }
 
+    /** True when the touch screen has never been calibrated. */
+    static bool isNeedTSCalibrate();
+    /** Opens the calibration without asking first. */
+    void autoTSCalibrate();
+
 public slots:
     /** Shows utility `id`: a built-in page at once, a plug-in after its start window had 100 ms to appear. */
     void changeCurrentUtil(int id);
@@ -96,6 +107,16 @@ public slots:
     void translate() override;
     void triggerHome();
     void triggerClose();
+    /** The information pages; over a test application only noted, for inquireSystemState(). */
+    void showPowerInfo();
+    void showStorageInfo();
+    void showBTInfo();
+    /** Shows the information page that was asked for while a test application was in front. */
+    void inquireSystemState();
+    /** Takes over backlight times that were changed in the settings. */
+    void checkSystemSettings();
+    /** Backlight on and its time started again; every touch does that. */
+    void wakeupScreen();
 
 signals:
     /** Raised by the test application switching: false when one takes the screen, true when it gives it back.
@@ -109,6 +130,7 @@ protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
 
 private slots:
     void itemChanged(int id);
@@ -117,6 +139,15 @@ private slots:
     void procDelayUnlock();
     void postLaunch();
     void handleSignal();
+    void backlightTimeout();
+    void dlgPopon();
+    void dlgPopoff();
+    void installUSBDrive();
+    void removeUSBDrive();
+    void updatePowerStatus(const PowerStatus& status);
+    void updateStorageStatus(const StorageStatus& status);
+    void updateWIFIStatus(const WIFIStatus& status);
+    void selftestPopup();
 
 private:
     // Construction
@@ -125,6 +156,8 @@ private:
     void loadSysSettings();
     void setupToolBox();
     void createPages();
+    void createInfoPages();
+    void createDeviceMonitor();
     void createTimers();
     template <typename Page> Page* addInnerPage(UtilityID id, Page* page);
 
@@ -176,6 +209,15 @@ private:
     void saveScreen();
     void reportScreenLimit();
 
+    // Information pages
+    bool isDlgPopupOnTestApp() const;
+    void askForInfoPage(InquireSysStatCode code);
+    void execPowerPage();
+    void execStoragePage();
+    /** The last storage record with the capacities, measured now. */
+    StorageStatus measuredStorage() const;
+    void restoreLastUtilState();
+
     // Focus
     void tapFocusWidget();
     void moveFocus(DetectDirection direction);
@@ -209,10 +251,14 @@ private:
     QRect m_nonInteractiveRegion;
     bool bIsUILocked = false;
     bool bIsAutoTSCal = false;
+    bool bIsClientInBackWithPopup = false; // an information page waits while a test application is in front
+    bool bIsShouldFakeDesktopShown = false;
+    InquireSysStatCode m_pInqSysStatCode = INQUIRE_SYS_STAT_NONE; // the page that waits
     bool m_isPainted = false;
     int m_saveScreenCount = 0; // screenshots asked for since the start
     QString m_saveScreenDirPath = QStringLiteral("/home/arvo/screen");
 
+    PowerStatus m_powerStat;
     StorageStatus m_storeStat;
     WIFIStatus m_wifiStat;
 
@@ -234,6 +280,11 @@ private:
     CSwitchAppWindow* m_pSwitchAppWnd = nullptr;
     CFakeDesktop* m_pFakeDesk = nullptr;
 
+    CPowerMonitor* m_pPowerMonitor = nullptr;
+    CStorageMonitor* m_pStorageMonitor = nullptr;
+
+    serv::CSysFailureServ FailureServ;
+    CDeviceMonitor* m_pDevMonitor = nullptr;
     CTaskManager* m_pTaskMan = nullptr;
     CPluginManager* m_pPluginMan = nullptr;
 

@@ -2,6 +2,7 @@
 
 #include "mainwindow.h"
 
+#include "devicemonitor.h"
 #include "pluginman.h"
 #include "utilinterface.h"
 
@@ -100,8 +101,13 @@ void CMainWindow::postLaunch()
     waitForFirstPaint();
     if (m_isTerminating)
         return;
+    m_pDevMonitor->start(QThread::InheritPriority);
+    m_pDevMonitor->wakeupScreen(m_powerStat.bIsBat, 1);
     autoLoadPlugins();
     QThread::msleep(LAUNCH_SETTLE);
+    m_pSystemTimer->start();
+    selftestPopup();
+    m_pFailureServTimer->start();
 }
 
 void CMainWindow::autoLoadPlugins()

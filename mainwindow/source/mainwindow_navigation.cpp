@@ -87,6 +87,13 @@ void CMainWindow::keyPressEvent(QKeyEvent* event)
     }
 }
 
+void CMainWindow::mousePressEvent(QMouseEvent* event)
+{
+    CWidget::mousePressEvent(event);
+    qDebug().noquote() << QStringLiteral("MousePress:(%1, %2)").arg(event->x()).arg(event->y());
+    wakeupScreen();
+}
+
 void CMainWindow::tapFocusWidget()
 {
     QWidget* widget = m_pPrevFocusWidget;
