@@ -75,7 +75,6 @@ CBacklightGroup::CBacklightGroup(const Source& source, QWidget* parent)
     }
     placeControls();
     translate();
-    updateWidgetStyle();
     showEnabled();
 
     // Only what the user does is written: following a change made elsewhere must not write it again.
@@ -99,13 +98,6 @@ void CBacklightGroup::translate()
     m_times.clear(); // the items are texts too
     showTime();
     showBrightness();
-}
-
-void CBacklightGroup::updateWidgetStyle()
-{
-    // The bar's ground is white, on which the theme's accent is faint.
-    m_brightness->setBarColor(CWidgetStyle::getColor(CWidgetStyle::ColorPressed));
-    CWidget::updateWidgetStyle();
 }
 
 void CBacklightGroup::placeControls()

@@ -36,7 +36,6 @@ public:
 
 public slots:
     void translate() override;
-    void updateWidgetStyle() override;
 
 private:
     void placeControls();

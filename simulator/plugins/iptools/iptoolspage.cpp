@@ -40,9 +40,6 @@ CIpToolsPage::CIpToolsPage(CProbe* probe, QWidget* parent)
     , m_pPageDown(new CPushButton(QStringLiteral("\u25bc"), this))
 {
     setObjectName(QStringLiteral("ipToolsPage"));
-    setBackgroundColor(CWidgetStyle::ColorScreen);
-    setBorderColor(CWidgetStyle::ColorFrame);
-    setBorderWidth(0, 1, 1, 1);
 
     const struct
     {
@@ -67,7 +64,9 @@ CIpToolsPage::CIpToolsPage(CProbe* probe, QWidget* parent)
     m_pAddress->setSKPType(CKeyPadFactory::KeyPadAddress);
     m_pAddress->setMaxLength(ADDRESS_LIMIT);
     m_pState->setTextColor(CWidgetStyle::ColorTextMuted);
+    m_pBackground->setChecked(probe->isBackground());
 
+    connect(m_pBackground, &CCheckBox::toggled, m_pProbe, &CProbe::setBackground);
     connect(m_pPing, &CPushButton::clicked, this, [this] { run(CProbe::Ping); });
     connect(m_pTrace, &CPushButton::clicked, this, [this] { run(CProbe::Trace); });
     connect(m_pStop, &CPushButton::clicked, m_pProbe, &CProbe::stop);
@@ -79,16 +78,6 @@ CIpToolsPage::CIpToolsPage(CProbe* probe, QWidget* parent)
     });
     connect(m_pProbe, &CProbe::changed, this, &CIpToolsPage::showRun);
     translate();
-}
-
-bool CIpToolsPage::isBackgroundRun() const
-{
-    return m_pBackground->isChecked();
-}
-
-void CIpToolsPage::setBackgroundRun(bool on)
-{
-    m_pBackground->setChecked(on);
 }
 
 void CIpToolsPage::translate()
@@ -106,14 +95,23 @@ void CIpToolsPage::run(CProbe::Tool tool)
 {
     const QString address = m_pAddress->text().trimmed();
     if (!isHostAddress(address)) {
+        // A child of the window: the shell may take the page away while the box is up.
         CMessageBox box(
-            tr("IP Tools"), tr("Please enter an IP address or a host name."), CMessageBox::Ok, this);
+            tr("IP Tools"), tr("Please enter an IP address or a host name."), CMessageBox::Ok, window());
         box.setTitleBackgroundColor(CWidgetStyle::ColorAlert);
-        box.setMessageAlignment(Qt::AlignCenter);
         box.exec();
         return;
     }
     m_pProbe->start(tool, address);
+}
+
+QString CIpToolsPage::stateText() const
+{
+    if (!m_pProbe->isRunning())
+        return m_pProbe->lineCount() == 0 ? tr("Ready") : tr("Finished");
+    const QString address = m_pProbe->address();
+    return m_pProbe->tool() == CProbe::Ping ? tr("Ping of %1 runs").arg(address)
+                                            : tr("Trace to %1 runs").arg(address);
 }
 
 void CIpToolsPage::showRun()
@@ -122,8 +120,6 @@ void CIpToolsPage::showRun()
     m_pPing->setEnabled(!isRunning);
     m_pTrace->setEnabled(!isRunning);
     m_pStop->setEnabled(isRunning);
-    m_pState->setText(isRunning ? tr("Running: %1").arg(m_pProbe->address()) : tr("Ready"));
-    m_pOutput->setLines(m_pProbe->lines());
-    m_pPageUp->setEnabled(m_pOutput->canScrollBack());
-    m_pPageDown->setEnabled(m_pOutput->canScrollOn());
+    m_pState->setText(stateText());
+    m_pOutput->setLines(m_pProbe->lines(), m_pProbe->lineCount());
 }

@@ -18,15 +18,12 @@ public:
     /** @param probe the run that the page shows and drives; not owned, outlives the page */
     CIpToolsPage(CProbe* probe, QWidget* parent);
 
-    /** Whether a run goes on when the page is left. */
-    bool isBackgroundRun() const;
-    void setBackgroundRun(bool on);
-
 public slots:
     void translate() override;
 
 private:
     void run(CProbe::Tool tool);
+    QString stateText() const;
     void showRun();
 
     CProbe* m_pProbe;

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int LINE_HEIGHT = 20;
+constexpr int LINE_HEIGHT = 18;
 constexpr int MARGIN = 8;
 
 } // namespace
@@ -20,15 +20,13 @@ COutputView::COutputView(QWidget* parent)
     setBorderWidth(1);
 }
 
-void COutputView::setLines(const QStringList& lines)
+void COutputView::setLines(const QStringList& lines, int total)
 {
-    if (lines == m_lines)
-        return;
-    const bool wasAtEnd = m_back == 0;
-    const int added = lines.size() - m_lines.size();
+    const int added = total - m_total;
+    m_total = total;
     m_lines = lines;
-    setBack(wasAtEnd || added <= 0 ? 0 : m_back + added);
-    update();
+    // Somebody who reads further back keeps the same lines in view; a new run starts at its end.
+    setBack(m_back == 0 || added < 0 ? 0 : m_back + added);
 }
 
 void COutputView::scrollPages(int pages)
@@ -57,7 +55,7 @@ void COutputView::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);
     QPainter painter(this);
-    const QFont font = CWidgetStyle::getFont(CWidgetStyle::FontText);
+    const QFont font = CWidgetStyle::getFont(CWidgetStyle::FontTable);
     const QFontMetrics metrics(font);
     painter.setFont(font);
     painter.setPen(CWidgetStyle::getColor(CWidgetStyle::ColorTextLight));

@@ -15,7 +15,8 @@ class COutputView : public CWidget
 public:
     explicit COutputView(QWidget* parent);
 
-    void setLines(const QStringList& lines);
+    /** @param total number of lines there were so far; more than `lines` holds when the oldest are dropped */
+    void setLines(const QStringList& lines, int total);
     /** Scrolls by whole pages; negative goes back. */
     void scrollPages(int pages);
     bool canScrollBack() const { return firstLine() > 0; }
@@ -36,6 +37,7 @@ private:
     void setBack(int lines);
 
     QStringList m_lines;
+    int m_total = 0;
     int m_back = 0; // lines between the view and the end
     int m_dragY = 0;
     int m_dragBack = 0;
