@@ -10,15 +10,15 @@
  * settled one already; the --ignore rectangle, where a status may come and go, is left out of the comparison.
  * Then it obeys lines on stdin:
  *
- *   damage            {"events":N}          damage events since the last such line
- *   press X,Y         {"first":MS}          puts the finger down; ms to the first damage, -1 if none came
- *   release X,Y       {}                    moves the finger to X,Y and lifts it
- *   key NAME          {"first":MS}          presses and releases a key
- *   click X,Y         {"first":MS}          touches, and waits until that has been drawn; ms to the first
- * damage tap X,Y R         {"picture":H}         touches, waits until the screen is quiet, hash of rectangle
- * R (X,Y,W,H) tap X,Y R H       {"ms":MS}             touches, waits until R looks like H; -1 when that does
- * not happen shot FILE         {}                    the screen as a PPM file quit ends the client (as does
- * the end of stdin)
+ *   damage         {"events":N}   damage events since the last such line
+ *   press X,Y      {"first":MS}   puts the finger down; ms to the first damage, -1 if there was none
+ *   release X,Y    {}             moves the finger to X,Y and lifts it
+ *   key NAME       {"first":MS}   presses and releases a key
+ *   click X,Y      {"first":MS}   touches, and waits until that has been drawn
+ *   tap X,Y R      {"picture":H}  touches, waits until the screen is quiet; hash of rectangle R (X,Y,W,H)
+ *   tap X,Y R H    {"ms":MS}      touches, waits until R looks like H; -1 when that does not happen
+ *   shot FILE      {}             the screen as a PPM file
+ *   quit                          ends the client, as does the end of stdin
  */
 #define _GNU_SOURCE
 #include <X11/Xlib.h>
@@ -65,6 +65,7 @@ static int screen, damage_event;
 static XImage* image;
 static unsigned long damage_count;
 static double first_damage, last_damage;
+static pid_t client;
 
 static double now(void)
 {
@@ -244,6 +245,13 @@ static void shot(const char* name)
     puts(file ? "{}" : "{\"error\":\"cannot write\"}");
 }
 
+static int client_ended(void)
+{
+    if (client && waitpid(client, NULL, WNOHANG) != 0)
+        client = 0;
+    return client == 0;
+}
+
 /* Returns 0 when it is time to end. */
 static int obey(const char* line)
 {
@@ -254,7 +262,9 @@ static int obey(const char* line)
     Rect r;
     if (!strcmp(line, "quit"))
         return 0;
-    if (!strcmp(line, "damage")) {
+    if (client_ended()) {
+        puts("{\"error\":\"the program has ended\"}");
+    } else if (!strcmp(line, "damage")) {
         drain();
         printf("{\"events\":%lu}\n", damage_count - seen);
         seen = damage_count;
@@ -316,13 +326,13 @@ static int open_screen(void)
     return 1;
 }
 
-static void watch_start(pid_t child, double start, Rect ignored, double quiet)
+static void watch_start(double start, Rect ignored, double quiet)
 {
     static Frame frames[4096];
     int n = 0;
     double first = -1;
     const Rect all = {0, 0, image->width, image->height};
-    while (now() - start < SETTLE_LIMIT && waitpid(child, NULL, WNOHANG) == 0) {
+    while (now() - start < SETTLE_LIMIT && !client_ended()) {
         const unsigned long before = damage_count;
         const double since = last_damage > start ? last_damage : start;
         if (first_damage >= 0 && now() - since >= quiet)
@@ -338,21 +348,23 @@ static void watch_start(pid_t child, double start, Rect ignored, double quiet)
     double complete = -1;
     for (int i = n; i-- > 0 && frames[i].picture == frames[n - 1].picture;)
         complete = frames[i].t;
-    printf("{\"pid\":%d,\"first\":%.3f,\"complete\":%.3f,\"frames\":%d}\n", (int)child, first, complete, n);
+    printf("{\"pid\":%d,\"first\":%.3f,\"complete\":%.3f,\"frames\":%d}\n", (int)client, first, complete, n);
     fflush(stdout);
 }
 
-static void end_client(pid_t child)
+static void end_client(void)
 {
     const double start = now();
-    kill(child, SIGTERM);
+    if (client_ended())
+        return;
+    kill(client, SIGTERM);
     while (now() - start < END_LIMIT) {
-        if (waitpid(child, NULL, WNOHANG) != 0)
+        if (client_ended())
             return;
         usleep(10000);
     }
-    kill(child, SIGKILL);
-    waitpid(child, NULL, 0);
+    kill(client, SIGKILL);
+    waitpid(client, NULL, 0);
 }
 
 int main(int argc, char** argv)
@@ -378,16 +390,16 @@ int main(int argc, char** argv)
     first_damage = -1;
     damage_count = 0;
     const double start = now();
-    const pid_t child = fork();
-    if (child == 0) {
+    client = fork();
+    if (client == 0) {
         dup2(open("/dev/null", O_RDONLY), STDIN_FILENO);
         dup2(STDERR_FILENO, STDOUT_FILENO); /* stdout is for the answers */
         execvp(argv[i + 1], argv + i + 1);
         _exit(127);
     }
-    if (child < 0)
+    if (client < 0)
         return 3;
-    watch_start(child, start, ignored, quiet);
+    watch_start(start, ignored, quiet);
 
     char buffer[1024];
     size_t fill = 0;
@@ -407,6 +419,6 @@ int main(int argc, char** argv)
             memmove(buffer, end + 1, fill);
         }
     }
-    end_client(child);
+    end_client();
     return 0;
 }

@@ -111,7 +111,8 @@ void CAppStatusIndicator::updateWifiWizStatus(const WIFIStatus& status)
         return;
     m_wifiRow = y;
 
-    const QPixmap strip(QStringLiteral(":/images/TB_WIFI_11states.png"));
+    // Named, or every image plug-in would be loaded to ask whether the file is its own.
+    const QPixmap strip(QStringLiteral(":/images/TB_WIFI_11states.png"), "PNG");
     const auto slice
         = [&strip, y](int column) { return strip.copy(column * WIFI_SLICE, y, WIFI_SLICE, WIFI_SLICE); };
     m_pWifiWizIcon->setIcon(slice(0));
