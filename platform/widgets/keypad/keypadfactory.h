@@ -21,5 +21,6 @@ public:
      * @param maxLength most characters, 0 for no limit
      * @return true when the user accepted
      */
-    static bool accessKeyPad(QWidget *parent, const QString &title, QString &text, KeyPadType type, int maxLength = 0);
+    static bool accessKeyPad(
+        QWidget* parent, const QString& title, QString& text, KeyPadType type, int maxLength = 0);
 };

@@ -1,5 +1,6 @@
 #include "widgets/progressbar/progressbar.h"
 
+#include "widgets/widgetstyle/stylepainter.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QPainter>
@@ -43,14 +44,18 @@ void CProgressBar::setBarColor(const QColor& color)
 void CProgressBar::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    const QColor color = colorOr(m_bar, CWidgetStyle::ColorAccent);
+    const QColor light = CWidgetStyle::getColor(CWidgetStyle::ColorDialog);
+    const QColor dark = CWidgetStyle::getColor(CWidgetStyle::ColorField);
     painter.fillRect(rect(), colorOr(m_border, CWidgetStyle::ColorFrame));
     const QRect inner = rect().adjusted(Border, Border, -Border, -Border);
-    painter.fillRect(inner, CWidgetStyle::getColor(CWidgetStyle::ColorDialog));
+    painter.fillRect(
+        inner, CStylePainter::contrast(color, dark) >= CStylePainter::contrast(color, light) ? dark : light);
 
     QRect bar = inner.adjusted(Gap, Gap, -Gap, -Gap);
     // In 64 bits: the whole range of int is allowed. A value below the range (nothing yet) is an empty bar.
     const qint64 range = qint64(maximum()) - minimum();
     const qint64 done = std::max<qint64>(0, qint64(value()) - minimum());
     bar.setWidth(range > 0 ? static_cast<int>(bar.width() * done / range) : 0);
-    painter.fillRect(bar, colorOr(m_bar, CWidgetStyle::ColorAccent));
+    painter.fillRect(bar, color);
 }

@@ -5,7 +5,8 @@
 
 /**
  * A flat level bar with a one-pixel border, filled from the left; a QProgressBar in its range and value. The
- * level is not written into it. Interface thread only. Owned by its Qt parent.
+ * level is not written into it. What is left empty is light or dark, whichever the bar stands out from.
+ * Interface thread only. Owned by its Qt parent.
  */
 class CProgressBar : public QProgressBar
 {
