@@ -2,6 +2,7 @@
 
 #include "utilinterface.h"
 
+#include <QDebug>
 #include <QPluginLoader>
 
 namespace {
@@ -90,7 +91,10 @@ UtilInterface* CPluginManager::loadPlugin(UtilityID id)
     if (fileName.isEmpty())
         return nullptr;
     m_pPluginLoader->setFileName(fileName);
-    m_pCurPlugin = qobject_cast<UtilInterface*>(m_pPluginLoader->instance());
+    QObject* root = m_pPluginLoader->instance();
+    m_pCurPlugin = qobject_cast<UtilInterface*>(root);
+    if (root && !m_pCurPlugin) // the loader found nothing wrong and has no better text for the user
+        qWarning().noquote() << fileName << "does not implement" << UtilInterface_iid;
     return m_pCurPlugin;
 }
 

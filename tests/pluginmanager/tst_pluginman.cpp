@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTest>
 #include <QWidget>
 
@@ -54,6 +55,7 @@ private slots:
     void noInterface();
     void unusableFile_data();
     void unusableFile();
+    void directory();
     void unreadableFile();
     void errorStaysUntilCleared();
     void terminateReachesBothBackgroundPlugins();
@@ -166,10 +168,16 @@ void TestPluginManager::lastLoadedIsDriven()
 void TestPluginManager::noInterface()
 {
     install("libfixture_nointerface.so", "libodmtool.so");
+    install("libfixture_recorder.so", "libharbor.so");
     CPluginManager manager;
+    QVERIFY(manager.loadPlugin(UTILITY_ID_HARBOR));
+    QTest::ignoreMessage(
+        QtWarningMsg, QRegularExpression(QStringLiteral("libodmtool.so does not implement")));
     QVERIFY(!manager.loadPlugin(UTILITY_ID_ODMTOOL));
+    QVERIFY(!manager.errorString().isEmpty());
     QVERIFY(!manager.unloadPlugin()); // the library is loaded, and there is nothing to stop
     manager.setPluginWindowVisible(true);
+    QVERIFY(calls().isEmpty()); // the one loaded before is no longer driven
 }
 
 void TestPluginManager::unusableFile_data()
@@ -203,6 +211,14 @@ void TestPluginManager::unusableFile()
     QVERIFY(!manager.loadPlugin(UTILITY_ID_VFL));
     QVERIFY2(manager.errorString().size() > 10, qPrintable(manager.errorString()));
     QVERIFY(!manager.unloadPlugin());
+}
+
+void TestPluginManager::directory()
+{
+    QVERIFY(QDir().mkdir(pathOf("libvfl.so")));
+    CPluginManager manager;
+    QVERIFY(!manager.loadPlugin(UTILITY_ID_VFL));
+    QVERIFY2(manager.errorString().size() > 10, qPrintable(manager.errorString()));
 }
 
 void TestPluginManager::unreadableFile()

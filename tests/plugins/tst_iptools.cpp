@@ -1,4 +1,5 @@
 #include "hostaddress.h"
+#include "outputview.h"
 #include "utilinterface.h"
 
 #include "widgets/checkbox/checkbox.h"
@@ -9,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QPluginLoader>
+#include <QProcess>
 #include <QTest>
 #include <QWidget>
 
@@ -30,6 +32,8 @@ QByteArrayList running(const char* name)
     }
     return found;
 }
+
+const QString LIBRARY = QStringLiteral("/usr/local/arvo/plugins/libIPtool.so");
 
 int descriptors()
 {
@@ -54,6 +58,9 @@ private slots:
     void leavingThePageEndsTheRun();
     void backgroundRunOutlivesThePage();
     void stopWithoutStart();
+    void windowMayGoFirst();
+    void nothingIsLeftWhenTheShellDies();
+    void whatIsReadStaysInView();
 
 private:
     template <typename T> T* part(const char* name) { return m_host.findChild<T*>(QLatin1String(name)); }
@@ -69,7 +76,7 @@ void TestIpTools::initTestCase()
 {
     m_host.resize(800, 460);
     m_host.show();
-    m_loader.setFileName(QStringLiteral("/usr/local/arvo/plugins/libIPtool.so"));
+    m_loader.setFileName(LIBRARY);
     m_plugin = qobject_cast<UtilInterface*>(m_loader.instance());
     QVERIFY2(m_plugin, qPrintable(m_loader.errorString()));
     QVERIFY(m_plugin->bkgRun(&m_host));
@@ -205,5 +212,84 @@ void TestIpTools::stopWithoutStart()
     m_plugin->terminate();
 }
 
-QTEST_MAIN(TestIpTools)
+void TestIpTools::windowMayGoFirst()
+{
+    {
+        QWidget window;
+        QVERIFY(m_plugin->start(&window));
+    }
+    m_plugin->update();
+    QVERIFY(!m_plugin->stop());
+}
+
+void TestIpTools::nothingIsLeftWhenTheShellDies()
+{
+    QProcess shell;
+    shell.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--ping")});
+    QTRY_COMPARE(running("ping").size(), 1);
+    shell.kill(); // nobody gets to end the ping
+    QVERIFY(shell.waitForFinished());
+    QTRY_VERIFY(running("ping").isEmpty());
+}
+
+void TestIpTools::whatIsReadStaysInView()
+{
+    constexpr int limit = 500;
+    COutputView view(nullptr);
+    view.resize(400, 200);
+    QStringList lines;
+    int total = 0;
+    const auto add = [&] {
+        lines << QStringLiteral("line %1").arg(++total);
+        if (lines.size() > limit)
+            lines.removeFirst();
+        view.setLines(lines, total);
+    };
+    for (int i = 0; i < limit; ++i)
+        add();
+    QVERIFY(!view.canScrollOn()); // follows
+    view.scrollPages(-2);
+    const QImage reading = view.grab().toImage();
+    add(); // the oldest line is dropped, which must not move what is read
+    QCOMPARE(view.grab().toImage(), reading);
+    view.scrollPages(2 + limit);
+    const QImage end = view.grab().toImage();
+    add();
+    QVERIFY(view.grab().toImage() != end);
+
+    view.scrollPages(-1000);
+    QVERIFY(!view.canScrollBack());
+    const QImage top = view.grab().toImage();
+    QTest::mousePress(&view, Qt::LeftButton, {}, {100, 150});
+    QMouseEvent drag(QEvent::MouseMove, QPointF(100, 50), Qt::LeftButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&view, &drag);
+    QVERIFY(view.canScrollBack()); // dragged up: later lines come into view
+    QVERIFY(view.grab().toImage() != top);
+
+    view.setLines({QStringLiteral("a new run")}, 1);
+    QVERIFY(!view.canScrollBack() && !view.canScrollOn());
+}
+
+/** Stands in for the shell: pings until it is killed. */
+int pingForEver()
+{
+    QWidget window;
+    QPluginLoader loader(LIBRARY);
+    auto* plugin = qobject_cast<UtilInterface*>(loader.instance());
+    if (!plugin || !plugin->start(&window))
+        return EXIT_FAILURE;
+    window.findChild<CParmLineEdit*>(QStringLiteral("address"))->setText(QStringLiteral("127.0.0.1"));
+    window.findChild<CPushButton*>(QStringLiteral("ping"))->click();
+    return QCoreApplication::exec();
+}
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    if (application.arguments().contains(QStringLiteral("--ping")))
+        return pingForEver();
+    TestIpTools test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_iptools.moc"

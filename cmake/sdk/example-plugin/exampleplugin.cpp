@@ -6,12 +6,15 @@
 #include "widgets/widget/widget.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
-CExamplePlugin::CExamplePlugin() = default;
-CExamplePlugin::~CExamplePlugin() = default;
+CExamplePlugin::~CExamplePlugin()
+{
+    delete m_page;
+}
 
 bool CExamplePlugin::start(QWidget* parent)
 {
-    m_page = std::make_unique<CWidget>(parent);
+    delete m_page;
+    m_page = new CWidget(parent);
     m_page->setBackgroundColor(CWidgetStyle::ColorScreen);
     m_page->setBorderColor(CWidgetStyle::ColorFrame);
     m_page->setBorderWidth(0, 1, 1, 1);
@@ -19,9 +22,9 @@ bool CExamplePlugin::start(QWidget* parent)
 
     const int brightness
         = CSystemSettings::globalSettings()->getAttribute(CSystemSettings::ACBrightness).toInt();
-    auto* label = new CLabel(tr("The brightness on external power is %1.").arg(brightness), m_page.get());
+    auto* label = new CLabel(tr("The brightness on external power is %1.").arg(brightness), m_page);
     label->setGeometry(24, 24, 592, 40);
-    auto* button = new CPushButton(tr("Close"), m_page.get());
+    auto* button = new CPushButton(tr("Close"), m_page);
     button->setGeometry(24, 80, 160, 44);
     connect(button, &CPushButton::clicked, this, &CExamplePlugin::requestToClose);
 
@@ -33,7 +36,7 @@ bool CExamplePlugin::start(QWidget* parent)
 
 bool CExamplePlugin::stop()
 {
-    m_page.reset();
+    delete m_page;
     bIsStarted = false;
     return true;
 }

@@ -3,8 +3,7 @@
 #include "utilinterface.h"
 
 #include <QObject>
-
-#include <memory>
+#include <QPointer>
 
 class CWidget;
 
@@ -16,7 +15,6 @@ class CExamplePlugin : public QObject, public UtilInterface
     Q_INTERFACES(UtilInterface)
 
 public:
-    CExamplePlugin();
     ~CExamplePlugin() override;
 
     QString getPluginID() override { return QStringLiteral("example"); }
@@ -37,5 +35,5 @@ signals:
     void requestToClose();
 
 private:
-    std::unique_ptr<CWidget> m_page; // also a child of the shell's window; gone after stop()
+    QPointer<CWidget> m_page; // made by start(), gone after stop(), or earlier when the shell's window goes
 };
