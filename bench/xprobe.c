@@ -260,11 +260,11 @@ static int obey(const char* line)
     char word[256];
     unsigned long long wanted = 0;
     Rect r;
-    if (!strcmp(line, "quit"))
+    if (strcmp(line, "quit") == 0)
         return 0;
     if (client_ended()) {
         puts("{\"error\":\"the program has ended\"}");
-    } else if (!strcmp(line, "damage")) {
+    } else if (strcmp(line, "damage") == 0) {
         drain();
         printf("{\"events\":%lu}\n", damage_count - seen);
         seen = damage_count;
@@ -372,14 +372,14 @@ int main(int argc, char** argv)
     Rect ignored = {0, 0, 0, 0};
     double quiet = 3000;
     int i = 1;
-    for (; i + 1 < argc && strcmp(argv[i], "--"); i += 2) {
-        if (!strcmp(argv[i], "--quiet"))
+    for (; i + 1 < argc && strcmp(argv[i], "--") != 0; i += 2) {
+        if (strcmp(argv[i], "--quiet") == 0)
             quiet = atof(argv[i + 1]);
-        else if (strcmp(argv[i], "--ignore")
+        else if (strcmp(argv[i], "--ignore") != 0
             || sscanf(argv[i + 1], "%d,%d,%d,%d", &ignored.x, &ignored.y, &ignored.w, &ignored.h) != 4)
             break;
     }
-    if (i + 1 >= argc || strcmp(argv[i], "--")) {
+    if (i + 1 >= argc || strcmp(argv[i], "--") != 0) {
         fputs("usage: xprobe [--ignore X,Y,W,H] [--quiet MS] -- COMMAND [ARGUMENT...]\n", stderr);
         return 2;
     }
