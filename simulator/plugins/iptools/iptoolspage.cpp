@@ -14,15 +14,16 @@ namespace {
 constexpr int ADDRESS_LIMIT = 253; // characters of the longest host name
 
 // Geometry in the working area, 640 by 400.
-const QRect ADDRESS(16, 14, 356, 44);
-const QRect BACKGROUND(384, 14, 240, 44);
-const QRect PING(16, 68, 112, 44);
-const QRect TRACE(136, 68, 112, 44);
-const QRect STOP(256, 68, 116, 44);
-const QRect STATE(384, 68, 240, 44);
-const QRect OUTPUT(16, 122, 548, 264);
-const QRect PAGE_UP(576, 122, 48, 127);
-const QRect PAGE_DOWN(576, 259, 48, 127);
+const QRect ADDRESS(16, 12, 608, 44);
+const QRect PING(16, 66, 108, 44);
+const QRect TRACE(134, 66, 108, 44);
+const QRect STOP(252, 66, 108, 44);
+const QRect BACKGROUND(376, 66, 248, 44);
+const QRect OUTPUT(16, 120, 548, 234);
+const QRect PAGE_UP(576, 120, 48, 112);
+const QRect PAGE_DOWN(576, 242, 48, 112);
+const QRect STATE(16, 360, 608, 28);
+constexpr int ARROW_SIZE = 22;
 
 } // namespace
 
@@ -64,6 +65,8 @@ CIpToolsPage::CIpToolsPage(CProbe* probe, QWidget* parent)
     m_pAddress->setSKPType(CKeyPadFactory::KeyPadAddress);
     m_pAddress->setMaxLength(ADDRESS_LIMIT);
     m_pState->setTextColor(CWidgetStyle::ColorTextMuted);
+    m_pPageUp->setTextSize(ARROW_SIZE);
+    m_pPageDown->setTextSize(ARROW_SIZE);
     m_pBackground->setChecked(probe->isBackground());
 
     connect(m_pBackground, &CCheckBox::toggled, m_pProbe, &CProbe::setBackground);
@@ -108,7 +111,8 @@ void CIpToolsPage::run(CProbe::Tool tool)
 QString CIpToolsPage::stateText() const
 {
     if (!m_pProbe->isRunning())
-        return m_pProbe->lineCount() == 0 ? tr("Ready") : tr("Finished");
+        return m_pProbe->lineCount() == 0 ? tr("Enter an address, then touch Ping or Trace.")
+                                          : tr("Finished");
     const QString address = m_pProbe->address();
     return m_pProbe->tool() == CProbe::Ping ? tr("Ping of %1 runs").arg(address)
                                             : tr("Trace to %1 runs").arg(address);
