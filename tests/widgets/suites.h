@@ -8,4 +8,6 @@
 std::unique_ptr<QObject> themeSuite();
 std::unique_ptr<QObject> controlsSuite();
 std::unique_ptr<QObject> dialogsSuite();
+std::unique_ptr<QObject> fieldsSuite();
+std::unique_ptr<QObject> keyPadSuite();
 std::unique_ptr<QObject> touchRegionSuite();
