@@ -52,6 +52,9 @@ bool CShellProcess::waitForLog(const QString& text)
 
 bool CShellProcess::waitForHome()
 {
+    // What an earlier program left on the screen does not count.
+    if (!waitForLog(QStringLiteral("### XGetWindowProperty")))
+        return false;
     const CXScreen screen;
     return QTest::qWaitFor(
         [&] {
