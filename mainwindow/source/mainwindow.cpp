@@ -5,11 +5,9 @@
 #include "fakedesktop.h"
 #include "homepage.h"
 #include "pluginman.h"
-#include "powermonitor.h"
 #include "settingmoremenu.h"
 #include "sigtransfer.h"
 #include "startutilwindow.h"
-#include "storagemonitor.h"
 #include "switchappwindow.h"
 #include "systemsettingsmenu.h"
 #include "taskmanager.h"
@@ -163,8 +161,6 @@ void CMainWindow::createPages()
     m_pSettingMenu = addInnerPage(UTILITY_ID_SETTINGS, new CSystemSettingsMenu(this));
     m_pSettingMoreMenu = addInnerPage(UTILITY_ID_SETTING_MORE, new CSettingMoreMenu(this));
 
-    createInfoPages();
-
     m_pSwitchAppWnd = new CSwitchAppWindow(this);
     m_pSwitchAppWnd->hide();
     m_pSwitchAppWnd->move(CWidgetStyle::getScreenRegion(CWidgetStyle::RegionPageFrame).topLeft());
@@ -172,21 +168,6 @@ void CMainWindow::createPages()
     m_pHomePage = addInnerPage(UTILITY_ID_BEGIN, new CHomePage(this));
     m_pHomePage->show();
     m_pInnerUtilpage = m_pHomePage;
-}
-
-void CMainWindow::createInfoPages()
-{
-    m_pPowerMonitor = new CPowerMonitor(this);
-    m_pPowerMonitor->setWindowID(POPUP_WND_ID_INQUIRE_STAT_POWER);
-    m_pStorageMonitor = new CStorageMonitor(this);
-    m_pStorageMonitor->setWindowID(POPUP_WND_ID_INQUIRE_STAT_USB_DISK);
-    for (const CDialog* dialog :
-        {static_cast<CDialog*>(m_pPowerMonitor), static_cast<CDialog*>(m_pStorageMonitor)}) {
-        connect(dialog, &CDialog::popOn, this, &CMainWindow::dlgPopon);
-        connect(dialog, &CDialog::popOff, this, &CMainWindow::dlgPopoff);
-    }
-    connect(m_pStorageMonitor, &CStorageMonitor::installUSBDriveSig, this, &CMainWindow::installUSBDrive);
-    connect(m_pStorageMonitor, &CStorageMonitor::removeUSBDriveSig, this, &CMainWindow::removeUSBDrive);
 }
 
 void CMainWindow::createDeviceMonitor()

@@ -156,7 +156,6 @@ private:
     void loadSysSettings();
     void setupToolBox();
     void createPages();
-    void createInfoPages();
     void createDeviceMonitor();
     void createTimers();
     template <typename Page> Page* addInnerPage(UtilityID id, Page* page);
@@ -212,6 +211,8 @@ private:
     // Information pages
     bool isDlgPopupOnTestApp() const;
     void askForInfoPage(InquireSysStatCode code);
+    /** An information page is made when it is first asked for: building them takes a part of the start-up. */
+    template <typename Page> Page* makeInfoPage(int windowID);
     void execPowerPage();
     void execStoragePage();
     /** The last storage record with the capacities, measured now. */

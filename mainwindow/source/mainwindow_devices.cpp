@@ -141,8 +141,19 @@ void CMainWindow::inquireSystemState()
     }
 }
 
+template <typename Page> Page* CMainWindow::makeInfoPage(int windowID)
+{
+    auto* page = new Page(this);
+    page->setWindowID(windowID);
+    connect(page, &CDialog::popOn, this, &CMainWindow::dlgPopon);
+    connect(page, &CDialog::popOff, this, &CMainWindow::dlgPopoff);
+    return page;
+}
+
 void CMainWindow::execPowerPage()
 {
+    if (!m_pPowerMonitor)
+        m_pPowerMonitor = makeInfoPage<CPowerMonitor>(POPUP_WND_ID_INQUIRE_STAT_POWER);
     if (m_pPowerMonitor->isVisible())
         return;
     moveToWorkingAreaCenter(m_pPowerMonitor);
@@ -151,6 +162,11 @@ void CMainWindow::execPowerPage()
 
 void CMainWindow::execStoragePage()
 {
+    if (!m_pStorageMonitor) {
+        m_pStorageMonitor = makeInfoPage<CStorageMonitor>(POPUP_WND_ID_INQUIRE_STAT_USB_DISK);
+        connect(m_pStorageMonitor, &CStorageMonitor::installUSBDriveSig, this, &CMainWindow::installUSBDrive);
+        connect(m_pStorageMonitor, &CStorageMonitor::removeUSBDriveSig, this, &CMainWindow::removeUSBDrive);
+    }
     if (m_pStorageMonitor->isVisible())
         return;
     moveToWorkingAreaCenter(m_pStorageMonitor);
@@ -211,14 +227,14 @@ void CMainWindow::removeUSBDrive()
 void CMainWindow::updatePowerStatus(const PowerStatus& status)
 {
     m_powerStat = status;
-    if (m_pPowerMonitor->isVisible())
+    if (m_pPowerMonitor && m_pPowerMonitor->isVisible())
         m_pPowerMonitor->updatePowerStatus(status);
 }
 
 void CMainWindow::updateStorageStatus(const StorageStatus& status)
 {
     m_storeStat = status;
-    if (m_pStorageMonitor->isVisible())
+    if (m_pStorageMonitor && m_pStorageMonitor->isVisible())
         m_pStorageMonitor->updateStorageStatus(measuredStorage());
 }
 

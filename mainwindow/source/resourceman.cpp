@@ -179,6 +179,12 @@ constexpr QRgb colors[] = {
 constexpr int colorCount = sizeof(colors) / sizeof(colors[0]);
 constexpr int lastBatteryStatus = CResourceMan::BAT_EMPTY_DISCHARGED;
 
+/** All pictures are PNG: naming the format keeps Qt from asking every image plug-in on the unit. */
+QImage loadPicture(const QString& name)
+{
+    return QImage(name, "PNG");
+}
+
 /** A part of a strip; a null picture if it lies outside, which QImage::copy() would fill instead. */
 QPixmap cut(const QImage& strip, const QRect& rect)
 {
@@ -199,7 +205,7 @@ QPixmap cutSlice(const QString& strip, const Slice* slice)
 {
     if (!slice)
         return QPixmap();
-    return cut(QImage(strip), QRect(slice->x, slice->y, slice->width, slice->height));
+    return cut(loadPicture(strip), QRect(slice->x, slice->y, slice->width, slice->height));
 }
 
 /** The slice of a state; the table's first one for a state that is not in it. */
@@ -296,10 +302,10 @@ QColor CResourceMan::getColor(ColorCode code)
 QPixmap CResourceMan::getFolderStatus(FolderStatus status)
 {
     if (status == FolderLocked)
-        return QPixmap(QStringLiteral(":/images/Lock_status.png"));
+        return QPixmap::fromImage(loadPicture(QStringLiteral(":/images/Lock_status.png")));
     if (status == FolderUnlock)
-        return QPixmap(QStringLiteral(":/images/Unlock_status.png"));
-    return QPixmap(QStringLiteral(":/images/folder-blue.png"));
+        return QPixmap::fromImage(loadPicture(QStringLiteral(":/images/Unlock_status.png")));
+    return QPixmap::fromImage(loadPicture(QStringLiteral(":/images/folder-blue.png")));
 }
 
 QIcon CResourceMan::getUIStatus(UIStatus status)
@@ -397,7 +403,7 @@ QPixmap CResourceMan::getSystemWIFIStatus(SystemWIFIStatus status)
 QPixmap CResourceMan::getSystemBatteryStatus(BatteryStatus status)
 {
     const int column = int(status) >= 0 && int(status) <= lastBatteryStatus ? int(status) : 0;
-    return cut(QImage(QStringLiteral(":/images/status-TB_battery.png")),
+    return cut(loadPicture(QStringLiteral(":/images/status-TB_battery.png")),
         QRect(column * smallSide, 0, smallSide, smallSide));
 }
 

@@ -18,7 +18,7 @@ void CSwitchAppWindow::start()
     // The picture fills the page frame: decoded with the first switch, not at start-up.
     if (!m_pictureLoaded) {
         m_pictureLoaded = true;
-        setBackgroundImage(QPixmap(QStringLiteral(":/images/Zentra-app-switch.png")));
+        setBackgroundImage(QPixmap(QStringLiteral(":/images/Zentra-app-switch.png"), "PNG"));
     }
     bIsFinish = false;
     raise();

@@ -145,7 +145,7 @@ QVector<Layer> CPictureTable::layers(const QString& text)
 
 QColor CPictureTable::color(const QString& name)
 {
-    const QColor result = m_colors.value(name);
+    QColor result = m_colors.value(name);
     if (!result.isValid())
         fault(QStringLiteral("unknown color %1").arg(name));
     return result;

@@ -52,9 +52,9 @@ void CStorageMonitor::initialize()
     m_pInstallUSBDriver = new CPushButton(m_pBtnWidget);
     m_pInstallUSBDriver->setObjectName(QStringLiteral("usbDrive"));
     m_pInstallUSBDriver->setExtraAttribute(
-        CPushButton::ReleaseBackground, QPixmap(QStringLiteral(":/images/remove_usb_release.png")));
+        CPushButton::ReleaseBackground, QPixmap(QStringLiteral(":/images/remove_usb_release.png"), "PNG"));
     m_pInstallUSBDriver->setExtraAttribute(
-        CPushButton::PressBackground, QPixmap(QStringLiteral(":/images/remove_usb_pushed.png")));
+        CPushButton::PressBackground, QPixmap(QStringLiteral(":/images/remove_usb_pushed.png"), "PNG"));
     connect(m_pBtnOk, &QAbstractButton::clicked, this, &CStorageMonitor::onOk);
     connect(m_pInstallUSBDriver, &QAbstractButton::clicked, this, &CStorageMonitor::onUSBDrive);
 

@@ -20,7 +20,7 @@ QColor CXScreen::pixel(const QPoint& at) const
         = XGetImage(m_display, DefaultRootWindow(m_display), at.x(), at.y(), 1, 1, AllPlanes, ZPixmap);
     if (!image)
         return {};
-    const QColor color(QRgb(XGetPixel(image, 0, 0)));
+    QColor color(QRgb(XGetPixel(image, 0, 0)));
     XDestroyImage(image);
     return color;
 }

@@ -36,7 +36,7 @@ QSize CEntryItem::sizeHint() const
 void CEntryItem::paintEvent(QPaintEvent*)
 {
     if (!m_pictureName.isEmpty()) {
-        m_picture = QPixmap(m_pictureName);
+        m_picture = QPixmap(m_pictureName, "PNG");
         m_pictureName.clear();
     }
     const int radius = CWidgetStyle::getMetric(QStringLiteral("entryRadius"), 10);

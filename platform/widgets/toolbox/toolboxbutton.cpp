@@ -39,7 +39,7 @@ QSize CToolBoxButton::sizeHint() const
 void CToolBoxButton::paintEvent(QPaintEvent*)
 {
     if (!m_iconName.isEmpty()) {
-        m_icon = QPixmap(m_iconName);
+        m_icon = QPixmap(m_iconName, "PNG");
         m_iconName.clear();
     }
     QPainter painter(this);
