@@ -11,12 +11,12 @@
 namespace {
 
 // Pixels
-constexpr int Width = 480;
+constexpr int Width = 540;
 constexpr int TitleHeight = 48;
 constexpr int TitleTextSize = 24;
 constexpr int TextSize = 18;
 constexpr int Margin = 24;
-constexpr int NameWidth = 220;
+constexpr int NameWidth = 236;
 constexpr int RowHeight = 40;
 constexpr int PictureSize = 60;
 constexpr int PictureInset = 4; // clear edge of the picture, so that its plate stands above the texts

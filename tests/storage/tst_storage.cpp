@@ -1,0 +1,305 @@
+#include "infopage.h"
+#include "storagecapacity.h"
+#include "storagemonitor.h"
+#include "storageview.h"
+#include "widgets/label/label.h"
+#include "widgets/pushbutton/pushbutton.h"
+#include "widgets/widgetstyle/widgetstyle.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <limits>
+
+namespace {
+
+QString operator""_s(const char* text, size_t size)
+{
+    return QString::fromUtf8(text, static_cast<int>(size));
+}
+
+constexpr int Most = std::numeric_limits<int>::max();
+
+StorageStatus record(int diskUsed, int diskAvail, bool hasUsb = false, int usbUsed = 0, int usbAvail = 0)
+{
+    StorageStatus status;
+    status.diskUsed = diskUsed;
+    status.diskAvail = diskAvail;
+    status.bIsUSBDPlugged = hasUsb;
+    status.USBDUsed = usbUsed;
+    status.USBDAvail = usbAvail;
+    return status;
+}
+
+QStringList listOf(const StorageFigures& figures)
+{
+    return {figures.blocks, figures.used, figures.avail, figures.usedRatio};
+}
+
+/** Used and available blocks as the system's own tool counts them. */
+QStringList df(const QString& path, int blockSize)
+{
+    QProcess tool;
+    tool.start("df"_s, {"--block-size=%1"_s.arg(blockSize), "--output=used,avail"_s, path});
+    tool.waitForFinished();
+    return QString::fromLatin1(tool.readAllStandardOutput())
+        .section(QLatin1Char('\n'), 1)
+        .simplified()
+        .split(QLatin1Char(' '));
+}
+
+Phrases phrases(const char* language)
+{
+    if (qstrcmp(language, "German") == 0)
+        return {{"Storage Information", "Speicherinformationen"_s},
+            {"Internal Storage", "Interner Speicher"_s}, {"USB Drive detected", "USB-Laufwerk erkannt"_s},
+            {"USB Drive is in use", "USB-Laufwerk in Gebrauch"_s},
+            {"NO USB Drive detected", "KEIN USB-Laufwerk erkannt"_s}, {"1K blocks", "1K-Blöcke"_s},
+            {"4K blocks", "4K-Blöcke"_s}, {"Used", "Belegt"_s}, {"Available", "Verfügbar"_s},
+            {"Used Ratio", "Belegungsgrad"_s}};
+    return {{"Storage Information", "Сведения о хранилище"_s}, {"Internal Storage", "Внутренняя память"_s},
+        {"USB Drive detected", "USB-накопитель обнаружен"_s},
+        {"USB Drive is in use", "USB-накопитель занят"_s},
+        {"NO USB Drive detected", "USB-накопитель НЕ найден"_s}, {"1K blocks", "Блоки по 1К"_s},
+        {"4K blocks", "Блоки по 4К"_s}, {"Used", "Использовано"_s}, {"Available", "Доступно"_s},
+        {"Used Ratio", "Доля занятого"_s}};
+}
+
+} // namespace
+
+class tst_Storage : public QObject
+{
+    Q_OBJECT
+
+private:
+    static void lookAt(CStorageMonitor& page);
+
+private slots:
+    void initTestCase();
+    void view_data();
+    void view();
+    void blocks_data();
+    void blocks();
+    void measuredAsTheSystemDoes();
+    void measuredRecord_data();
+    void measuredRecord();
+    void page();
+    void languages_data();
+    void languages();
+    void usbButton();
+    void answeredByKeys();
+};
+
+void tst_Storage::initTestCase()
+{
+    QApplication::setFont(QFont("Arial"_s)); // as the shell does
+}
+
+/** Everything shown can be read and touched. */
+void tst_Storage::lookAt(CStorageMonitor& page)
+{
+    QCOMPARE(misplacedParts(page), QString());
+    QCOMPARE(cutTexts(page), QString());
+    QCOMPARE(faintTexts(page), QString());
+    QCOMPARE(smallButtons(page), QString());
+}
+
+void tst_Storage::view_data()
+{
+    QTest::addColumn<StorageStatus>("status");
+    QTest::addColumn<QStringList>("disk");
+    QTest::addColumn<QStringList>("usbd");
+    QTest::addColumn<QByteArray>("state");
+    const QStringList none = {""_s, ""_s, ""_s, ""_s};
+    const QByteArray absent = "NO USB Drive detected";
+    const QByteArray inUse = "USB Drive is in use";
+    QTest::newRow("nothing") << record(0, 0) << QStringList{"0"_s, "0"_s, "0"_s, "0 %"_s} << none << absent;
+    QTest::newRow("truncated") << record(1, 2) << QStringList{"3"_s, "1"_s, "2"_s, "33 %"_s} << none
+                               << absent;
+    QTest::newRow("nearly full") << record(999, 1) << QStringList{"1000"_s, "999"_s, "1"_s, "99 %"_s} << none
+                                 << absent;
+    QTest::newRow("figures of a drive that is away")
+        << record(1, 1, false, 7, 7) << QStringList{"2"_s, "1"_s, "1"_s, "50 %"_s} << none << absent;
+    QTest::newRow("USB drive") << record(0, 5, true, 2, 1) << QStringList{"5"_s, "0"_s, "5"_s, "0 %"_s}
+                               << QStringList{"3"_s, "2"_s, "1"_s, "66 %"_s} << inUse;
+    QTest::newRow("empty USB drive") << record(5, 0, true) << QStringList{"5"_s, "5"_s, "0"_s, "100 %"_s}
+                                     << QStringList{"0"_s, "0"_s, "0"_s, "0 %"_s} << inUse;
+    QTest::newRow("largest") << record(Most, Most, true, Most, 0)
+                             << QStringList{"4294967294"_s, "2147483647"_s, "2147483647"_s, "50 %"_s}
+                             << QStringList{"2147483647"_s, "2147483647"_s, "0"_s, "100 %"_s} << inUse;
+}
+
+void tst_Storage::view()
+{
+    QFETCH(StorageStatus, status);
+    const StorageView shown = storageView(status);
+    QTEST(listOf(shown.disk), "disk");
+    QTEST(listOf(shown.usbd), "usbd");
+    QTEST(QByteArray(shown.usbdState), "state");
+    QCOMPARE(shown.bIsUSBDShown, status.bIsUSBDPlugged);
+}
+
+void tst_Storage::blocks_data()
+{
+    QTest::addColumn<quint64>("units");
+    QTest::addColumn<quint64>("unitSize");
+    QTest::addColumn<int>("blockSize");
+    QTest::addColumn<int>("expected");
+    const quint64 all = std::numeric_limits<quint64>::max();
+    QTest::newRow("same size") << quint64(7) << quint64(1024) << 1024 << 7;
+    QTest::newRow("larger units") << quint64(7) << quint64(4096) << 1024 << 28;
+    QTest::newRow("smaller units, last block not full") << quint64(15) << quint64(512) << 4096 << 1;
+    QTest::newRow("none") << quint64(0) << quint64(4096) << 1024 << 0;
+    QTest::newRow("largest") << quint64(Most) << quint64(1024) << 1024 << Most;
+    QTest::newRow("one more") << quint64(Most) + 1 << quint64(1024) << 1024 << Most;
+    QTest::newRow("beyond 64 bits") << all << all << 4096 << Most;
+}
+
+void tst_Storage::blocks()
+{
+    QFETCH(quint64, units);
+    QFETCH(quint64, unitSize);
+    QFETCH(int, blockSize);
+    QTEST(toBlocks(units, unitSize, blockSize), "expected");
+}
+
+void tst_Storage::measuredAsTheSystemDoes()
+{
+    for (const int blockSize : {DiskBlock, USBDriveBlock}) {
+        int used = -1;
+        int avail = -1;
+        QVERIFY(measureCapacity("/home"_s, blockSize, used, avail));
+        QCOMPARE(QStringList({QString::number(used), QString::number(avail)}), df("/home"_s, blockSize));
+        QVERIFY(avail > 0);
+    }
+    int used = -1;
+    int avail = -1;
+    QVERIFY(!measureCapacity("/home/nobody/here"_s, DiskBlock, used, avail));
+    QCOMPARE(used, 0);
+    QCOMPARE(avail, 0);
+}
+
+void tst_Storage::measuredRecord_data()
+{
+    QTest::addColumn<bool>("mounted");
+    QTest::addColumn<QString>("mountPoint");
+    QTest::addColumn<bool>("hasFigures");
+    QTest::newRow("plugged only") << false << "/tmp"_s << false;
+    QTest::newRow("mounted") << true << "/tmp"_s << true;
+    QTest::newRow("gone in the meantime") << true << "/nowhere"_s << false;
+}
+
+void tst_Storage::measuredRecord()
+{
+    QFETCH(bool, mounted);
+    QFETCH(QString, mountPoint);
+    QFETCH(bool, hasFigures);
+    StorageStatus status = record(0, 0, true, 11, 12); // what an earlier call found
+    status.bIsPlugged = true;
+    status.bIsMounted = mounted;
+    measureStorage(status, "/home"_s, mountPoint);
+    QVERIFY(status.diskAvail > 0);
+    QCOMPARE(status.bIsUSBDPlugged, hasFigures);
+    QCOMPARE(status.USBDAvail > 0, hasFigures);
+    QVERIFY(status.USBDUsed != 11);
+    QVERIFY(status.bIsPlugged);
+    QCOMPARE(status.bIsMounted, mounted);
+}
+
+void tst_Storage::page()
+{
+    const char* const usbParts[] = {"usbdBlocksName", "usbdBlocks", "usbdUsedName", "usbdUsed",
+        "usbdAvailName", "usbdAvail", "usbdUsedRatioName", "usbdUsedRatio", "usbDrive"};
+    CStorageMonitor page;
+    const auto isShown = [&page](const char* name) {
+        return page.findChild<QWidget*>(QLatin1String(name))->isVisibleTo(&page);
+    };
+    page.show();
+    page.updateStorageStatus(record(2144321, 5120003, true, Most, Most));
+    for (const char* part : usbParts)
+        QVERIFY2(isShown(part), part);
+    QCOMPARE(textOf(page, "diskBlocksName"), "1K blocks"_s);
+    QCOMPARE(textOf(page, "usbdBlocksName"), "4K blocks"_s);
+    QCOMPARE(textOf(page, "diskBlocks"), "7264324"_s);
+    QCOMPARE(textOf(page, "diskUsed"), "2144321"_s);
+    QCOMPARE(textOf(page, "diskAvail"), "5120003"_s);
+    QCOMPARE(textOf(page, "diskUsedRatio"), "29 %"_s);
+    QCOMPARE(textOf(page, "usbdBlocks"), "4294967294"_s);
+    QCOMPARE(textOf(page, "usbdUsedRatio"), "50 %"_s);
+    QCOMPARE(textOf(page, "usbd"), "USB Drive is in use"_s);
+    lookAt(page);
+
+    page.updateStorageStatus(record(2144321, 5120003));
+    for (const char* part : usbParts)
+        QVERIFY2(!isShown(part), part);
+    QCOMPARE(textOf(page, "usbdBlocks"), QString());
+    QCOMPARE(textOf(page, "usbd"), "NO USB Drive detected"_s);
+    QVERIFY(isShown("diskUsedRatio") && isShown("ok"));
+    const QSize room = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionWorkingArea).size();
+    QVERIFY(page.width() <= room.width() && page.height() <= room.height());
+}
+
+void tst_Storage::languages_data()
+{
+    QTest::addColumn<QString>("inUse");
+    QTest::newRow("German") << "USB-Laufwerk in Gebrauch"_s;
+    QTest::newRow("Russian") << "USB-накопитель занят"_s;
+}
+
+void tst_Storage::languages()
+{
+    CStorageMonitor page;
+    page.updateStorageStatus(record(1, 2, true, Most, Most));
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    const CInstalledPhrasebook language(phrases(QTest::currentDataTag()));
+    page.translate(); // while it is up
+    QTEST(textOf(page, "usbd"), "inUse");
+    lookAt(page);
+    page.updateStorageStatus(record(1, 2));
+    lookAt(page);
+}
+
+void tst_Storage::usbButton()
+{
+    CStorageMonitor page;
+    QSignalSpy install(&page, &CStorageMonitor::installUSBDriveSig);
+    QSignalSpy remove(&page, &CStorageMonitor::removeUSBDriveSig);
+    page.updateStorageStatus(record(1, 2, true, 3, 4));
+    page.findChild<CPushButton*>("usbDrive"_s)->click();
+    QCOMPARE(remove.count(), 1);
+    QCOMPARE(textOf(page, "usbd"), "USB Drive is in use"_s); // until the next record
+    page.updateStorageStatus(record(1, 2));
+    page.onUSBDrive();
+    QCOMPARE(install.count(), 1);
+    QCOMPARE(remove.count(), 1);
+}
+
+void tst_Storage::answeredByKeys()
+{
+    CStorageMonitor page;
+    QSignalSpy remove(&page, &CStorageMonitor::removeUSBDriveSig);
+    QSignalSpy on(&page, &CDialog::popOn);
+    QSignalSpy off(&page, &CDialog::popOff);
+    connect(&page, &CStorageMonitor::removeUSBDriveSig, &page, [&page] {
+        page.updateStorageStatus(record(1, 2)); // the marked button goes with the drive
+        QTest::keyClick(&page, Qt::Key_Left);
+        QTest::keyClick(&page, Qt::Key_Return);
+    });
+    QTimer::singleShot(0, &page, [&page] {
+        QTest::keyClick(&page, Qt::Key_Down);
+        QTest::keyClick(&page, Qt::Key_Right);
+        QTest::keyClick(&page, Qt::Key_Enter);
+    });
+    QTimer::singleShot(20000, &page, &QDialog::reject);
+    QCOMPARE(page.exec(record(1, 2, true, 3, 4)), int(QDialog::Accepted));
+    QCOMPARE(remove.count(), 1);
+    QCOMPARE(on.count(), 1);
+    QCOMPARE(off.count(), 1);
+}
+
+QTEST_MAIN(tst_Storage)
+#include "tst_storage.moc"
