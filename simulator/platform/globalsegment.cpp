@@ -1,10 +1,11 @@
-/*
- * Owner of the global settings segment: makes it as the platform does at power-on, and shows what is in it.
- *
- *   globalsegment create [SIZE]   makes the segment, SIZE bytes (1024 without one), all zero but for the
- * magic mark globalsegment show            prints the settings in it, one "name value" a line globalsegment
- * remove          gives the segment back, where no namespace of its own does so
- */
+// Owner of the global settings segment: makes it as the platform does at power-on, and shows what is in it.
+//
+// globalsegment create [SIZE]
+//     makes the segment, SIZE bytes (1024 without one), all zero but for the magic mark
+// globalsegment show
+//     prints the settings in it, one "name value" a line
+// globalsegment remove
+//     gives the segment back, where no namespace of its own does so
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>

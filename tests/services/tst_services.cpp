@@ -233,6 +233,7 @@ void TestServices::callersOnManyThreads()
     CBusLink link(Bus);
     std::atomic<int> answers{0};
     std::vector<std::thread> callers;
+    callers.reserve(8);
     for (int i = 0; i < 8; ++i)
         callers.emplace_back([&link, &answers] {
             for (int call = 0; call < 25; ++call)
