@@ -12,7 +12,7 @@ foreach(target widgets common)
 endforeach()
 
 install(TARGETS mainframe services COMPONENT Shell)
-install(DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/lang" DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT Shell)
+install(DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/lang" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/fonts" DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT Shell)
 
 install(TARGETS widgets common plugininterface EXPORT mainframeTargets COMPONENT Sdk)
 install(EXPORT mainframeTargets NAMESPACE mainframe:: DESTINATION "${sdk_package}" COMPONENT Sdk)

@@ -3,6 +3,7 @@
 #include "mainwindow.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
+#include <QFile>
 #include <QTextCodec>
 #include <QTranslator>
 
@@ -11,10 +12,25 @@
 #include <csignal>
 #include <memory>
 
+namespace {
+
+/** Fonts are looked up by the shell's own short configuration; reading the system's takes far longer. */
+void useOwnFontConfiguration()
+{
+    const QString file = CMainApplication::applicationDirPath() + QStringLiteral("/fonts/fonts.conf");
+    if (QFile::exists(file))
+        qputenv("FONTCONFIG_FILE", QFile::encodeName(file));
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
     // Nothing here draws with OpenGL, and loading it would cost 60 ms and 32 MB at every start.
     qputenv("QT_XCB_GL_INTEGRATION", "none");
+    // The unit has no session bus. Without this, the first text on a button makes Qt look for one, for a
+    // screen reader: a thread, and a child process that tries to start a bus.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
 
     std::signal(SIGCHLD, child_handler);
     setup_unix_signal_handlers();
@@ -22,6 +38,8 @@ int main(int argc, char** argv)
     CMainApplication::setOrganizationName(QStringLiteral("zentra"));
     CMainApplication::setApplicationName(QStringLiteral("mainframe"));
     auto application = std::make_unique<CMainApplication>(argc, argv);
+
+    useOwnFontConfiguration();
 
     initConfiguration(); // the shell starts with whatever is there
 

@@ -1,5 +1,7 @@
 #include "resourceman.h"
 
+#include "widgets/picture/picture.h"
+
 #include <QImage>
 
 #include <arpa/inet.h>
@@ -179,17 +181,10 @@ constexpr QRgb colors[] = {
 constexpr int colorCount = sizeof(colors) / sizeof(colors[0]);
 constexpr int lastBatteryStatus = CResourceMan::BAT_EMPTY_DISCHARGED;
 
-/** All pictures are PNG: naming the format keeps Qt from asking every image plug-in on the unit. */
-QImage loadPicture(const QString& name)
+/** A part of a strip; a null picture if it lies outside. */
+QPixmap cut(const QString& strip, const QRect& rect)
 {
-    return QImage(name, "PNG");
-}
-
-/** A part of a strip; a null picture if it lies outside, which QImage::copy() would fill instead. */
-QPixmap cut(const QImage& strip, const QRect& rect)
-{
-    const QRect inside = rect.intersected(strip.rect());
-    return inside.isEmpty() ? QPixmap() : QPixmap::fromImage(strip.copy(inside));
+    return QPixmap::fromImage(readPicture(strip, rect));
 }
 
 template <int count> const Slice* findSlice(const Slice (&slices)[count], int state)
@@ -205,7 +200,7 @@ QPixmap cutSlice(const QString& strip, const Slice* slice)
 {
     if (!slice)
         return QPixmap();
-    return cut(loadPicture(strip), QRect(slice->x, slice->y, slice->width, slice->height));
+    return cut(strip, QRect(slice->x, slice->y, slice->width, slice->height));
 }
 
 /** The slice of a state; the table's first one for a state that is not in it. */
@@ -223,9 +218,9 @@ template <int count> QPixmap sliceOrNone(const QString& strip, const Slice (&sli
 
 CResourceMan::IconStatus buttonRow(const QString& name, int y)
 {
-    const QImage strip(name);
-    const auto look = [&strip, y](int column) {
-        return cut(strip, QRect(column * buttonSide, y, buttonSide, buttonSide));
+    const QImage row = readPicture(name, QRect(0, y, 3 * buttonSide, buttonSide));
+    const auto look = [&row](int column) {
+        return QPixmap::fromImage(row.copy(column * buttonSide, 0, buttonSide, buttonSide));
     };
     return {look(0), look(1), look(2)};
 }
@@ -302,10 +297,10 @@ QColor CResourceMan::getColor(ColorCode code)
 QPixmap CResourceMan::getFolderStatus(FolderStatus status)
 {
     if (status == FolderLocked)
-        return QPixmap::fromImage(loadPicture(QStringLiteral(":/images/Lock_status.png")));
+        return QPixmap::fromImage(readPicture(QStringLiteral(":/images/Lock_status.png")));
     if (status == FolderUnlock)
-        return QPixmap::fromImage(loadPicture(QStringLiteral(":/images/Unlock_status.png")));
-    return QPixmap::fromImage(loadPicture(QStringLiteral(":/images/folder-blue.png")));
+        return QPixmap::fromImage(readPicture(QStringLiteral(":/images/Unlock_status.png")));
+    return QPixmap::fromImage(readPicture(QStringLiteral(":/images/folder-blue.png")));
 }
 
 QIcon CResourceMan::getUIStatus(UIStatus status)
@@ -403,8 +398,8 @@ QPixmap CResourceMan::getSystemWIFIStatus(SystemWIFIStatus status)
 QPixmap CResourceMan::getSystemBatteryStatus(BatteryStatus status)
 {
     const int column = int(status) >= 0 && int(status) <= lastBatteryStatus ? int(status) : 0;
-    return cut(loadPicture(QStringLiteral(":/images/status-TB_battery.png")),
-        QRect(column * smallSide, 0, smallSide, smallSide));
+    return cut(
+        QStringLiteral(":/images/status-TB_battery.png"), QRect(column * smallSide, 0, smallSide, smallSide));
 }
 
 CResourceMan::BatteryStatus CResourceMan::getSystemBatteryStatus(int remain, int full, bool onBattery)

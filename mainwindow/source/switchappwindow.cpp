@@ -1,5 +1,6 @@
 #include "switchappwindow.h"
 
+#include "widgets/picture/picture.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QApplication>
@@ -18,7 +19,7 @@ void CSwitchAppWindow::start()
     // The picture fills the page frame: decoded with the first switch, not at start-up.
     if (!m_pictureLoaded) {
         m_pictureLoaded = true;
-        setBackgroundImage(QPixmap(QStringLiteral(":/images/Zentra-app-switch.png"), "PNG"));
+        setBackgroundImage(QPixmap::fromImage(readPicture(QStringLiteral(":/images/Zentra-app-switch.png"))));
     }
     bIsFinish = false;
     raise();

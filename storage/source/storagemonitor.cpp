@@ -3,6 +3,7 @@
 #include "resourceman.h"
 #include "storageview.h"
 #include "widgets/label/label.h"
+#include "widgets/picture/picture.h"
 #include "widgets/pushbutton/pushbutton.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
@@ -51,10 +52,10 @@ void CStorageMonitor::initialize()
     m_pBtnOk->setObjectName(QStringLiteral("ok"));
     m_pInstallUSBDriver = new CPushButton(m_pBtnWidget);
     m_pInstallUSBDriver->setObjectName(QStringLiteral("usbDrive"));
-    m_pInstallUSBDriver->setExtraAttribute(
-        CPushButton::ReleaseBackground, QPixmap(QStringLiteral(":/images/remove_usb_release.png"), "PNG"));
-    m_pInstallUSBDriver->setExtraAttribute(
-        CPushButton::PressBackground, QPixmap(QStringLiteral(":/images/remove_usb_pushed.png"), "PNG"));
+    m_pInstallUSBDriver->setExtraAttribute(CPushButton::ReleaseBackground,
+        QPixmap::fromImage(readPicture(QStringLiteral(":/images/remove_usb_release.png"))));
+    m_pInstallUSBDriver->setExtraAttribute(CPushButton::PressBackground,
+        QPixmap::fromImage(readPicture(QStringLiteral(":/images/remove_usb_pushed.png"))));
     connect(m_pBtnOk, &QAbstractButton::clicked, this, &CStorageMonitor::onOk);
     connect(m_pInstallUSBDriver, &QAbstractButton::clicked, this, &CStorageMonitor::onUSBDrive);
 

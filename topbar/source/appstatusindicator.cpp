@@ -2,6 +2,7 @@
 
 #include "resourceman.h"
 #include "sigtransfer.h"
+#include "widgets/picture/picture.h"
 #include "widgets/statusicon/statusicon.h"
 
 namespace {
@@ -111,10 +112,11 @@ void CAppStatusIndicator::updateWifiWizStatus(const WIFIStatus& status)
         return;
     m_wifiRow = y;
 
-    // Named, or every image plug-in would be loaded to ask whether the file is its own.
-    const QPixmap strip(QStringLiteral(":/images/TB_WIFI_11states.png"), "PNG");
-    const auto slice
-        = [&strip, y](int column) { return strip.copy(column * WIFI_SLICE, y, WIFI_SLICE, WIFI_SLICE); };
+    const QImage row = readPicture(
+        QStringLiteral(":/images/TB_WIFI_11states.png"), QRect(0, y, 3 * WIFI_SLICE, WIFI_SLICE));
+    const auto slice = [&row](int column) {
+        return QPixmap::fromImage(row.copy(column * WIFI_SLICE, 0, WIFI_SLICE, WIFI_SLICE));
+    };
     m_pWifiWizIcon->setIcon(slice(0));
     setPictures(m_pWifiWizIcon, slice(1), slice(0), slice(2));
     // The button takes over the pictures of its focus state when that state is set.

@@ -1,4 +1,5 @@
 #include "widgets/entrywidget/entryitem.h"
+#include "widgets/picture/picture.h"
 
 #include "widgets/widgetstyle/stylepainter.h"
 #include "widgets/widgetstyle/widgetstyle.h"
@@ -36,7 +37,7 @@ QSize CEntryItem::sizeHint() const
 void CEntryItem::paintEvent(QPaintEvent*)
 {
     if (!m_pictureName.isEmpty()) {
-        m_picture = QPixmap(m_pictureName, "PNG");
+        m_picture = QPixmap::fromImage(readPicture(m_pictureName));
         m_pictureName.clear();
     }
     const int radius = CWidgetStyle::getMetric(QStringLiteral("entryRadius"), 10);

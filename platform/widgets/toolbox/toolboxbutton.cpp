@@ -1,4 +1,5 @@
 #include "widgets/toolbox/toolboxbutton.h"
+#include "widgets/picture/picture.h"
 
 #include "widgets/widgetstyle/stylepainter.h"
 #include "widgets/widgetstyle/widgetstyle.h"
@@ -39,7 +40,7 @@ QSize CToolBoxButton::sizeHint() const
 void CToolBoxButton::paintEvent(QPaintEvent*)
 {
     if (!m_iconName.isEmpty()) {
-        m_icon = QPixmap(m_iconName, "PNG");
+        m_icon = QPixmap::fromImage(readPicture(m_iconName));
         m_iconName.clear();
     }
     QPainter painter(this);
