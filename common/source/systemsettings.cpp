@@ -59,7 +59,7 @@ QVariant profileValue(CSystemSettings::SystemAttribute attribute, const QString&
 
 CSystemSettings* CSystemSettings::globalSettings()
 {
-    static CSystemSettings* const instance = new CSystemSettings;
+    static auto* const instance = new CSystemSettings;
     return instance;
 }
 
@@ -72,10 +72,14 @@ CSystemSettings::CSystemSettings(QObject* parent)
 
     // The instance outlives the event loop, which else writes the file after each burst of changes.
     if (QCoreApplication::instance())
-        connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
-            const QMutexLocker locker(&m_storeMutex);
-            m_settings.sync();
-        });
+        connect(
+            QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &CSystemSettings::storeNow);
+}
+
+void CSystemSettings::storeNow()
+{
+    const QMutexLocker locker(&m_storeMutex);
+    m_settings.sync();
 }
 
 CSystemSettings::~CSystemSettings()

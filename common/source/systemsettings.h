@@ -111,6 +111,7 @@ protected:
     explicit CSystemSettings(QObject* parent = nullptr);
 
 private:
+    void storeNow();
     void attachGlobalSetting();
     void detachGlobalSetting();
     void creatAttrStrMap();

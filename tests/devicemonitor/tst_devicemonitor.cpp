@@ -345,7 +345,7 @@ void tst_DeviceMonitor::usbDaemon()
 {
     QFETCH(QStringList, left);
     QFETCH(bool, mount);
-    QDir directory(QLatin1String(CUsbdMonitor::Directory));
+    const QDir directory{QLatin1String(CUsbdMonitor::Directory)};
     for (const QString& name : qAsConst(left))
         writeFile(directory.filePath(name), QByteArray());
     CUsbdMonitor monitor;

@@ -26,8 +26,8 @@ public:
 class CPluginHost
 {
 public:
-    CPluginHost()
-        : m_loader(QStringLiteral(PLUGIN_FILE))
+    explicit CPluginHost(const char* pluginFile)
+        : m_loader(QString::fromLatin1(pluginFile))
     {
         QApplication::setFont(QFont(QStringLiteral("Arial"))); // the shell's for most languages
         window.setGeometry(0, 0, 800, 460);

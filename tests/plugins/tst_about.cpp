@@ -128,13 +128,13 @@ void TestAbout::open(CPluginHost& host)
 
 void TestAbout::pageRules()
 {
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     checkPageRules(host);
 }
 
 void TestAbout::trueValues()
 {
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
     const qint64 before = uptime();
     host.plugin->update();
@@ -190,7 +190,7 @@ void TestAbout::addresses()
     for (const QString& name : up - withAddress)
         expected << QStringLiteral("Address of %1=none").arg(name);
 
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
     QStringList shown;
     for (const auto& row : allRows(host.page())) {
@@ -205,7 +205,7 @@ void TestAbout::addresses()
 
 void TestAbout::furtherPages()
 {
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
     CWidget* page = host.page();
     const auto namesOf = [](const Rows& rows) {
@@ -238,7 +238,7 @@ void TestAbout::furtherPages()
 
 void TestAbout::readsOnlyWhileVisible()
 {
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
     const auto shown = [&host] { return secondsOf(valueOf(visibleRows(host.page()), "Running for")); };
     const qint64 first = shown();
@@ -258,9 +258,9 @@ void TestAbout::readsOnlyWhileVisible()
 
 void TestAbout::repaintsOnlyWhatChanged()
 {
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
-    QTest::qWait(0);
+    QCoreApplication::processEvents();
     CPaintCounter counter;
     QHash<QObject*, QString> texts;
     for (CLabel* label : host.page()->findChildren<CLabel*>()) {
@@ -282,7 +282,7 @@ void TestAbout::repaintsOnlyWhatChanged()
 
 void TestAbout::longTexts()
 {
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
     keepPicture(host.page(), QStringLiteral("about"));
     checkLayout(host.page());

@@ -148,14 +148,14 @@ void TestBacklight::open(CPluginHost& host)
 
 void TestBacklight::pageRules()
 {
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     checkPageRules(host);
 }
 
 void TestBacklight::showingWritesNothing()
 {
     const QSignalSpy changed(store(), &S::attributeChanged);
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
     host.plugin->update();
     host.plugin->hide();
@@ -177,7 +177,7 @@ void TestBacklight::changesAreWritten()
     const Source& other = Sources[1 - source];
     const CBlock block;
     QVERIFY(block.setting);
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
     Group group(host.page(), own);
     QVector<int> expected = block.fields();
@@ -245,7 +245,7 @@ void TestBacklight::brightnessSteps()
     QFETCH(QVariant, stored);
     QFETCH(QVariant, darker);
     QFETCH(QVariant, brighter);
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
     for (const Source& source : Sources) {
         const Group group(host.page(), source);
@@ -263,7 +263,7 @@ void TestBacklight::brightnessSteps()
 
 void TestBacklight::followsChangesElsewhere()
 {
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
     const Group battery(host.page(), Sources[0]);
     const Group external(host.page(), Sources[1]);
@@ -289,7 +289,7 @@ void TestBacklight::followsChangesElsewhere()
 void TestBacklight::unusualTimeStays()
 {
     store()->setAttribute(S::BatteryBacklightTime, 90);
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
     Group group(host.page(), Sources[0]);
     QCOMPARE(group.time->currentText(), QStringLiteral("1 min 30 s"));
@@ -308,7 +308,7 @@ void TestBacklight::longTexts()
 {
     store()->setAttribute(S::ACBacklightEnabled, true);
     store()->setAttribute(S::ACBrightness, 100);
-    CPluginHost host;
+    CPluginHost host(PLUGIN_FILE);
     open(host);
     keepPicture(host.page(), QStringLiteral("backlight"));
     checkLayout(host.page());

@@ -6,7 +6,7 @@ QImage readPicture(const QString& name, const QRect& part)
 {
     QImageReader reader(name, "png");
     reader.setAutoDetectImageFormat(false);
-    const QImage whole = reader.read();
+    QImage whole = reader.read();
     if (part.isNull())
         return whole;
     // Outside the picture QImage::copy() would fill.
