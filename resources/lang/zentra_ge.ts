@@ -239,7 +239,7 @@ Pegelmesser</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Einstellung</translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>IP Tools</source>

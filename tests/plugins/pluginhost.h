@@ -10,6 +10,8 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include <qtestsupport_widgets.h>
+
 /** Gives every text as a longer one, as German and Russian do. */
 class CLongTexts : public QTranslator
 {
