@@ -165,6 +165,8 @@ class Services:
             self.wait("bus")
         if "daemon" in parts and "bus" in parts:
             self.launch_with_pipe("daemon", lambda fd: [self.tool("platformd"), "--ready-fd", fd])
+        if "daemon" in parts:
+            self.launch("usbd", [self.tool("usbd")])
         if "x" in parts:
             number = self.wait("x")
             for name in window_of or ():

@@ -141,7 +141,27 @@ idle|Mode:Managed  Access Point: Not-Associated
 link 70|Link Quality=70/100
 link 0|Access Point: [0-9A-F:]\{17\}
 TABLE
-for line in 'wifi' 'wifi on' 'wifi link' 'wifi link 101' 'wifi link -1' 'usb' 'usb eject' 'fail' 'fail 0' 'fail 12' \
+while IFS='|' read -r command answer; do
+    # shellcheck disable=SC2086 # words of the command
+    expect "service: $command" "$answer" "$(bare -- sh -c "$command 2>&1" | tail -n 1 | sed 's/process [0-9]*/process N/')"
+done <<'TABLE'
+/sbin/initctl status orlo-cli|orlo-cli stop/waiting
+/sbin/initctl start orlo-vnc|orlo-vnc start/running, process N
+simctl service orlo-vnc start >/dev/null; initctl status orlo-vnc|orlo-vnc start/running, process N
+initctl start orlo-vnc >/dev/null; initctl start orlo-vnc|initctl: Job is already running: orlo-vnc
+initctl start orlo-vnc >/dev/null; initctl stop orlo-vnc|orlo-vnc stop/waiting
+simctl service orlo-cli fail; initctl start orlo-cli|initctl: Job failed to start: orlo-cli
+initctl start nonsense|initctl: Unknown job: nonsense
+TABLE
+# The USB daemon takes up what the shell's device monitor asks for, when there is a drive.
+expect 'USB requests' 'mounted plugged none' "$(instrument --profile full -- sh -c '
+    cd /tmp/var/lib/usbd
+    ask() { : >req-$1; for _ in 1 2 3 4 5 6 7 8 9 10; do [ ! -e req-$1 ] || sleep 0.1; done; }
+    simctl usb plug; ask mount; a=$(simctl status | sed -n "s/^usb *//p")
+    ask umount; b=$(simctl status | sed -n "s/^usb *//p")
+    simctl usb unplug; ask mount; [ -e stat-mounted ] && c=mounted || c=none
+    echo "$a $b $c"')"
+for line in 'service' 'service nonsense start' 'wifi' 'wifi on' 'wifi link' 'wifi link 101' 'wifi link -1' 'usb' 'usb eject' 'fail' 'fail 0' 'fail 12' \
     'segment' 'daemon stop' 'viewers x' 'nonsense'; do
     # shellcheck disable=SC2086
     message=$(bare -- sh -c 'simctl $1 2>&1 >/dev/null || echo "status $?"' sh "$line" | tail -n 2)
