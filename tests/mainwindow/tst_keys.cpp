@@ -1,0 +1,359 @@
+#include "advancemenu.h"
+#include "mainwindow.h"
+#include "powermonitor.h"
+#include "sigtransfer.h"
+#include "storagemonitor.h"
+#include "systemsettings.h"
+#include "widgets/entrywidget/entrywidget.h"
+#include "widgets/statusicon/statusicon.h"
+#include "widgets/toolbox/toolbox.h"
+#include "widgets/toolbox/toolboxbutton.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "boxanswer.h"
+
+namespace {
+
+const QString MARK = QStringLiteral("/tmp/screen-locked.mark");
+const QString SCREENS = QStringLiteral("/home/arvo/screen");
+const QString INDICATOR = QStringLiteral("/tmp/.sysfail_indicator");
+constexpr int KEY_PAUSE = 230; // ms; a key that comes sooner counts as a repeat
+
+QRect region()
+{
+    return qApp->property("NonInteractiveRegion").toRect();
+}
+
+void setSetting(CSystemSettings::SystemAttribute attribute, const QVariant& value)
+{
+    CSystemSettings::globalSettings()->setAttribute(attribute, value, false);
+}
+
+void touchFile(const QString& path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+}
+
+/** Closes the information page that comes up next by its own OK button. */
+class CPageCloser : public QObject
+{
+public:
+    explicit CPageCloser(const char* className)
+    {
+        m_timer.setInterval(10);
+        connect(&m_timer, &QTimer::timeout, this, [this, className] {
+            QWidget* page = QApplication::activeModalWidget();
+            if (!page || !page->inherits(className) || !page->isVisible())
+                return;
+            m_timer.stop();
+            m_region = region();
+            m_seen = true;
+            page->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+        });
+        m_timer.start();
+    }
+    bool wasSeen() const { return m_seen; }
+    QRect regionWhileOpen() const { return m_region; }
+
+private:
+    QTimer m_timer;
+    QRect m_region;
+    bool m_seen = false;
+};
+
+} // namespace
+
+/** The hardware keys, the lock, screenshots, and what comes up by itself, in a real window. */
+class TestKeys : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void firstArrowMarksTheFirstControl();
+    void arrowsMoveAndEnterTouches();
+    void repeatedKeyIsOne();
+    void keysWithTestApplicationInFront();
+
+    void lockTogglesMarkAndRegion();
+    void lockedTouchesDoNothing();
+    void staleMarkIsNoTrap();
+    void unlockOverTestApplication();
+    void screenshot();
+    void screenshotLimit();
+    void screenshotIntoUnusableDirectory();
+
+    void failureBox();
+    void informationPages();
+    void storagePageOverTestApplication();
+    void changedBacklightTimeIsTakenOver();
+
+private:
+    /** Presses a key, no sooner after the last than counts as a press of its own. */
+    void press(Qt::Key key)
+    {
+        QTRY_VERIFY(!m_sinceKey.isValid() || m_sinceKey.elapsed() >= KEY_PAUSE);
+        QTest::keyClick(m_window.get(), key);
+        m_sinceKey.start();
+    }
+    QWidget* marked() const
+    {
+        for (auto* button : m_window->findChildren<CPushButton*>()) {
+            if (button->hasArrowKeyFocus())
+                return button;
+        }
+        return nullptr;
+    }
+    CToolBox* toolBox() const { return m_window->findChild<CToolBox*>(); }
+
+    std::unique_ptr<CMainWindow> m_window;
+    QElapsedTimer m_sinceKey;
+};
+
+void TestKeys::initTestCase()
+{
+    touchFile(MARK); // what an earlier run left
+    m_window = std::make_unique<CMainWindow>(nullptr);
+    m_window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    m_window->move(0, 0);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void TestKeys::init()
+{
+    m_window->triggerHome();
+    setSetting(CSystemSettings::LockScreenORSaveScreen, true);
+    setSetting(CSystemSettings::SaveScreenMaxNum, 50);
+}
+
+void TestKeys::cleanup()
+{
+    QCOMPARE(region(), QRect());
+}
+
+void TestKeys::firstArrowMarksTheFirstControl()
+{
+    press(Qt::Key_Return); // nothing is marked, nothing happens
+    QCOMPARE(toolBox()->openPage(), -1);
+    press(Qt::Key_Down); // the home page is empty: the tool box
+    auto* header = qobject_cast<CToolBoxButton*>(marked());
+    QVERIFY(header);
+    QCOMPARE(header->text(), QStringLiteral("Tools"));
+    m_window->changeCurrentUtil(UTILITY_ID_ADVTOOL);
+    QVERIFY(!marked());
+    press(Qt::Key_Left); // the first tile of the page
+    QCOMPARE(marked(), m_window->findChild<CAdvanceMenu*>()->findChild<CEntryWidget*>()->itemAt(0, 0));
+}
+
+void TestKeys::arrowsMoveAndEnterTouches()
+{
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    QCOMPARE(qobject_cast<CToolBoxButton*>(marked())->text(), QStringLiteral("Utilities"));
+    const QImage markedLook = marked()->grab().toImage();
+    QWidget* utilities = marked();
+    press(Qt::Key_Up);
+    QVERIFY(utilities->grab().toImage() != markedLook);
+    press(Qt::Key_Return);
+    QTRY_COMPARE(toolBox()->openPage(), 0);
+    for (int i = 0; i < 4; ++i)
+        press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QTRY_COMPARE(m_window->currentUtil(), UTILITY_ID_ADVTOOL);
+    // From a tile up to the top bar, which no strip of the tile's own width reaches, and back home.
+    press(Qt::Key_Down);
+    press(Qt::Key_Right);
+    press(Qt::Key_Up);
+    QCOMPARE(marked()->objectName(), QStringLiteral("homeButton"));
+    press(Qt::Key_Return);
+    QTRY_COMPARE(m_window->currentUtil(), UTILITY_ID_BEGIN);
+    press(Qt::Key_Down);
+    press(Qt::Key_Left); // the screen ends there
+    QVERIFY(marked());
+    press(Qt::Key_Home);
+    QVERIFY(!marked());
+}
+
+void TestKeys::repeatedKeyIsOne()
+{
+    press(Qt::Key_Down);
+    QWidget* first = marked();
+    QTest::keyClick(m_window.get(), Qt::Key_Down); // at once: a repeat
+    m_sinceKey.start();
+    QCOMPARE(marked(), first);
+    press(Qt::Key_Down);
+    QVERIFY(marked() != first);
+}
+
+void TestKeys::keysWithTestApplicationInFront()
+{
+    m_window->setWindowVisible(false);
+    press(Qt::Key_Down);
+    QVERIFY(!marked());
+    m_window->setWindowVisible(true);
+}
+
+void TestKeys::lockTogglesMarkAndRegion()
+{
+    QFile::remove(MARK);
+    QSignalSpy relayed(g_pSigTransfer, &CSigTransfer::lockStateChanged);
+    press(Qt::Key_F4);
+    QVERIFY(QFile::exists(MARK));
+    QCOMPARE(region(), QRect(0, 0, 800, 480));
+    press(Qt::Key_F4);
+    QVERIFY(!QFile::exists(MARK));
+    QCOMPARE(region(), QRect());
+    QCOMPARE(relayed.size(), 2);
+    QCOMPARE(relayed.at(0).at(0).toBool(), true);
+    QCOMPARE(relayed.at(1).at(0).toBool(), false);
+}
+
+void TestKeys::lockedTouchesDoNothing()
+{
+    auto* header = toolBox()->findChild<CToolBoxButton*>();
+    press(Qt::Key_F4);
+    QTest::mouseClick(header, Qt::LeftButton);
+    QCOMPARE(toolBox()->openPage(), -1);
+    QVERIFY(!header->isDown());
+    {
+        CPageCloser closer("CPowerMonitor"); // its own click is no touch
+        emit g_pSigTransfer->queryPowerInfo();
+        QVERIFY(closer.wasSeen());
+        QCOMPARE(closer.regionWhileOpen(), QRect(0, 0, 800, 480));
+    }
+    press(Qt::Key_F4);
+    QTest::mouseClick(header, Qt::LeftButton);
+    QCOMPARE(toolBox()->openPage(), 0);
+}
+
+void TestKeys::staleMarkIsNoTrap()
+{
+    touchFile(MARK);
+    QCOMPARE(region(), QRect());
+    press(Qt::Key_F4);
+    QVERIFY(QFile::exists(MARK));
+    press(Qt::Key_F4);
+    QVERIFY(!QFile::exists(MARK));
+}
+
+void TestKeys::unlockOverTestApplication()
+{
+    m_window->setWindowVisible(false);
+    press(Qt::Key_F4);
+    QCOMPARE(region(), QRect(0, 0, 800, 480));
+    press(Qt::Key_F4);
+    QCOMPARE(region(), QRect(0, 0, 800, 460));
+    m_window->setWindowVisible(true);
+    m_window->setNonInteractiveRegion(CMainWindow::RegionNone, QRect());
+}
+
+void TestKeys::screenshot()
+{
+    QDir(SCREENS).removeRecursively();
+    setSetting(CSystemSettings::LockScreenORSaveScreen, false);
+    press(Qt::Key_F4);
+    const QStringList files = QDir(SCREENS).entryList(QDir::Files);
+    QCOMPARE(files.size(), 1);
+    QVERIFY2(QRegularExpression(QStringLiteral("^\\d{8}_\\d{6}\\.png$")).match(files.first()).hasMatch(),
+        qPrintable(files.first()));
+    const QImage picture(SCREENS + QLatin1Char('/') + files.first(), "PNG");
+    QCOMPARE(picture.size(), QSize(800, 480));
+    QCOMPARE(picture.pixelColor(560, 2), QColor(181, 199, 239)); // the top bar, as it stands on the screen
+}
+
+void TestKeys::screenshotLimit()
+{
+    setSetting(CSystemSettings::LockScreenORSaveScreen, false);
+    setSetting(CSystemSettings::SaveScreenMaxNum, 0);
+    CBoxAnswer box("ok");
+    press(Qt::Key_F4);
+    QCOMPARE(box.title(), QStringLiteral("Error saving screen!"));
+    QVERIFY(box.text().startsWith(QStringLiteral("Number of saved screenshots already reach\nor exceed")));
+}
+
+void TestKeys::screenshotIntoUnusableDirectory()
+{
+    QDir(SCREENS).removeRecursively();
+    touchFile(SCREENS); // a file stands where the directory should be
+    setSetting(CSystemSettings::LockScreenORSaveScreen, false);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Can not save the screen")));
+    press(Qt::Key_F4);
+    QVERIFY(QFile::remove(SCREENS));
+}
+
+void TestKeys::failureBox()
+{
+    touchFile(INDICATOR);
+    CBoxAnswer box("ok");
+    QVERIFY(QMetaObject::invokeMethod(m_window.get(), "selftestPopup"));
+    QCOMPARE(box.title(), QStringLiteral("System Error"));
+    QVERIFY(box.text().startsWith(QStringLiteral("Error Code: ")));
+    QVERIFY(box.text().endsWith(QStringLiteral("Please contact customer service!")));
+    QVERIFY(!QFile::exists(INDICATOR));
+}
+
+void TestKeys::informationPages()
+{
+    CPageCloser power("CPowerMonitor");
+    emit g_pSigTransfer->queryPowerInfo();
+    QVERIFY(power.wasSeen());
+    CPageCloser storage("CStorageMonitor");
+    emit g_pSigTransfer->queryStorageInfo();
+    QVERIFY(storage.wasSeen());
+}
+
+void TestKeys::storagePageOverTestApplication()
+{
+    m_window->setWindowVisible(false);
+    emit g_pSigTransfer->queryPowerInfo(); // noted only, and never shown
+    m_window->inquireSystemState();
+    QVERIFY(!QApplication::activeModalWidget());
+    emit g_pSigTransfer->queryStorageInfo();
+    QVERIFY(!QApplication::activeModalWidget());
+    CPageCloser storage("CStorageMonitor");
+    m_window->inquireSystemState();
+    QVERIFY(storage.wasSeen());
+    QCOMPARE(storage.regionWhileOpen(), QRect());
+    QVERIFY(!m_window->isNeedInteractive()); // the test application has the screen again
+    QCOMPARE(region(), QRect(0, 0, 800, 460));
+    m_window->setWindowVisible(true);
+    m_window->setNonInteractiveRegion(CMainWindow::RegionNone, QRect());
+}
+
+void TestKeys::changedBacklightTimeIsTakenOver()
+{
+    setSetting(CSystemSettings::ACBacklightEnabled, true);
+    setSetting(CSystemSettings::ACBacklightTime, 77);
+    setSetting(CSystemSettings::ACBacklightChanged, true);
+    const auto runsFor = [this](int interval) {
+        for (const auto* timer : m_window->findChildren<QTimer*>()) {
+            if (timer->isActive() && timer->isSingleShot() && timer->interval() == interval)
+                return true;
+        }
+        return false;
+    };
+    m_window->checkSystemSettings();
+    QVERIFY(runsFor(77000));
+    QVERIFY(!CSystemSettings::globalSettings()->getAttribute(CSystemSettings::ACBacklightChanged).toBool());
+    setSetting(CSystemSettings::ACBacklightTime, 88); // without its flag
+    m_window->checkSystemSettings();
+    QVERIFY(!runsFor(88000));
+    setSetting(CSystemSettings::ACBacklightEnabled, false);
+    m_window->checkSystemSettings();
+    QVERIFY(!runsFor(77000));
+}
+
+QTEST_MAIN(TestKeys)
+#include "tst_keys.moc"
