@@ -1,6 +1,7 @@
 #pragma once
 
 #include "devicestatus.h"
+#include "focussearch.h"
 #include "languagecode.h"
 #include "menustack.h"
 #include "services/sysfailureserv.h"
@@ -52,8 +53,8 @@ class CMainWindow : public CWidget
 public:
     enum VisibleReason { TestAppForeground = 0, TestAppBackground = 1, OtherReason = 2 };
     enum TestAppAction { ActionLoad = 0, ActionRelease = 1, ActionNone = 2 };
-    enum DetectDirection { DetectLeft = 0, DetectUp = 1, DetectRight = 2, DetectDown = 3 };
-    enum DetectType { LinearDetect = 0, RadialDetect = 1, NoDetect = 2 };
+    using DetectDirection = CFocusSearch::DetectDirection;
+    using DetectType = CFocusSearch::DetectType;
     enum NonInteractiveRegionType {
         FullScreen = 0,
         ExcludeBottomBar = 1,
@@ -224,12 +225,6 @@ private:
     void moveFocus(DetectDirection direction);
     QWidget* firstFocusWidget();
     bool hasWidgetDetected(DetectDirection direction, DetectType type);
-    QRect getDetectRect(QWidget* widget, int step, DetectDirection direction, DetectType type);
-    bool canDetectTo(const QRect& strip) const;
-    QWidget* findChildAt(const QRect& strip);
-    QRect globalRect(QWidget* widget) const;
-    static float distance(const QPoint& from, const QPoint& to);
-    static void allChildren(QObject* parent, QList<QObject*>& children);
     void setWidgetFocus(QObject* widget, bool on);
     void clearFocusWidget();
     void resetFocusWidget();

@@ -4,6 +4,7 @@
 #include "mainwindow.h"
 
 #include "advancemenu.h"
+#include "focussearch.h"
 #include "services/globalsettingutils.h"
 #include "settingmoremenu.h"
 #include "systemsettingsmenu.h"
@@ -14,7 +15,6 @@
 #include <QApplication>
 #include <QDebug>
 #include <QKeyEvent>
-#include <QLineF>
 #include <QThread>
 
 #include <algorithm>
@@ -23,29 +23,19 @@ namespace {
 
 constexpr qint64 KEY_REPEAT_LIMIT = 221; // ms; a key that comes sooner is its own repeat
 constexpr unsigned long TAP_TIME = 100; // ms
-constexpr float FARTHEST = 800.0F; // pixels from strip centre to candidate centre
-constexpr int RADIAL_GAP = 5; // pixels between the widget and a radial strip
-constexpr int SCREEN_WIDTH = 800;
-constexpr int SCREEN_HEIGHT = 480;
-
-/** Types of the control library that only group others or cannot be touched. */
-bool isPassive(const CWidget* widget)
-{
-    return widget->typeCode() == CWidget::TypeLabel || widget->typeCode() == CWidget::TypePlain;
-}
 
 struct ArrowKey
 {
     int key;
-    CMainWindow::DetectDirection direction;
+    CFocusSearch::DetectDirection direction;
     const char* log;
 };
 
 constexpr ArrowKey ARROW_KEYS[] = {
-    {Qt::Key_Left, CMainWindow::DetectLeft, "Key Left"},
-    {Qt::Key_Up, CMainWindow::DetectUp, "Key Top"},
-    {Qt::Key_Right, CMainWindow::DetectRight, "Key Right"},
-    {Qt::Key_Down, CMainWindow::DetectDown, "Key Down"},
+    {Qt::Key_Left, CFocusSearch::DetectLeft, "Key Left"},
+    {Qt::Key_Up, CFocusSearch::DetectUp, "Key Top"},
+    {Qt::Key_Right, CFocusSearch::DetectRight, "Key Right"},
+    {Qt::Key_Down, CFocusSearch::DetectDown, "Key Down"},
 };
 
 } // namespace
@@ -127,25 +117,22 @@ void CMainWindow::moveFocus(DetectDirection direction)
         }
         return;
     }
-    if (hasWidgetDetected(direction, LinearDetect))
+    if (hasWidgetDetected(direction, CFocusSearch::LinearDetect))
         return;
     qDebug("Radial detect");
-    hasWidgetDetected(direction, RadialDetect);
+    hasWidgetDetected(direction, CFocusSearch::RadialDetect);
 }
 
 QWidget* CMainWindow::firstFocusWidget()
 {
     const QRect page = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionWorkingArea);
-    QList<QObject*> children;
-    allChildren(this, children);
-    for (QObject* child : qAsConst(children)) {
+    const CFocusSearch search(this);
+    for (QObject* child : search.allChildren(this)) {
         auto* button = qobject_cast<QPushButton*>(child);
-        if (button && button->isVisibleTo(this) && page.contains(globalRect(button).center()))
+        if (button && button->isVisibleTo(this) && page.contains(search.globalRect(button).center()))
             return button;
     }
-    children.clear();
-    allChildren(m_pToolBox, children);
-    for (QObject* child : qAsConst(children)) {
+    for (QObject* child : search.allChildren(m_pToolBox)) {
         auto* button = qobject_cast<QPushButton*>(child);
         if (button && button->isVisibleTo(this))
             return button;
@@ -155,108 +142,13 @@ QWidget* CMainWindow::firstFocusWidget()
 
 bool CMainWindow::hasWidgetDetected(DetectDirection direction, DetectType type)
 {
-    for (int step = 1;; ++step) {
-        const QRect strip = getDetectRect(m_pPrevFocusWidget, step, direction, type);
-        if (!canDetectTo(strip))
-            return false;
-        QWidget* widget = findChildAt(strip);
-        if (widget && widget != m_pPrevFocusWidget) {
-            setWidgetFocus(m_pPrevFocusWidget, false);
-            m_pPrevFocusWidget = widget;
-            setWidgetFocus(widget, true);
-            return true;
-        }
-    }
-}
-
-QRect CMainWindow::getDetectRect(QWidget* widget, int step, DetectDirection direction, DetectType type)
-{
-    const QRect g = globalRect(widget);
-    const int length = step * m_arrowKeyStepLen;
-    // The right and bottom edges are the last pixels inside: linear strips there overlap the widget by one.
-    if (type == LinearDetect) {
-        switch (direction) {
-        case DetectLeft:
-            return {g.left() - length, g.top(), length, g.height()};
-        case DetectUp:
-            return {g.left(), g.top() - length, g.width(), length};
-        case DetectRight:
-            return {g.right(), g.top(), length, g.height()};
-        case DetectDown:
-            return {g.left(), g.bottom(), g.width(), length};
-        }
-    }
-    if (type == RadialDetect) {
-        switch (direction) {
-        case DetectLeft:
-            return {g.left() - length - RADIAL_GAP, 1, length, SCREEN_HEIGHT - 1};
-        case DetectUp:
-            return {1, g.top() - RADIAL_GAP - length, SCREEN_WIDTH - 2, length};
-        case DetectRight:
-            return {g.right() + RADIAL_GAP, 1, length, SCREEN_HEIGHT - 1};
-        case DetectDown:
-            return {1, g.bottom() + RADIAL_GAP, SCREEN_WIDTH - 2, length};
-        }
-    }
-    return {-1, -1, SCREEN_WIDTH + 1, SCREEN_HEIGHT + 1}; // never inside the window: the search ends at once
-}
-
-bool CMainWindow::canDetectTo(const QRect& strip) const
-{
-    // The window stands for the whole screen, the strip of a bottom bar included: radial strips are that
-    // high.
-    return QRect(0, 0, width(), height()).united(QRect(0, 0, SCREEN_WIDTH, SCREEN_HEIGHT)).contains(strip);
-}
-
-QWidget* CMainWindow::findChildAt(const QRect& strip)
-{
-    float bestDistance = FARTHEST;
-    QWidget* best = nullptr;
-    QRect bestRect;
-
-    QList<QObject*> children;
-    allChildren(this, children);
-    for (QObject* child : qAsConst(children)) {
-        auto* widget = static_cast<QWidget*>(child);
-        const auto* control = qobject_cast<CWidget*>(widget);
-        if (widget == m_pPrevFocusWidget || !widget->isVisibleTo(this)
-            || (control ? isPassive(control) : !qobject_cast<QPushButton*>(widget)))
-            continue;
-        const QRect rect = globalRect(widget);
-        // A composed control only wins inside a candidate found before it: the marker stays on the enclosing
-        // control unless a nested one is nearer.
-        if (!rect.intersects(strip) || (control && !bestRect.contains(rect)))
-            continue;
-        const float length = distance(rect.center(), strip.center());
-        if (length < bestDistance) {
-            bestDistance = length;
-            best = widget;
-            bestRect = rect;
-        }
-    }
-    return best;
-}
-
-QRect CMainWindow::globalRect(QWidget* widget) const
-{
-    Q_ASSERT_X(widget, "CMainWindow::globalRect", "pWidget != NULL");
-    return {widget->mapTo(this, widget->rect().topLeft()), widget->mapTo(this, widget->rect().bottomRight())};
-}
-
-float CMainWindow::distance(const QPoint& from, const QPoint& to)
-{
-    return float(QLineF(from, to).length());
-}
-
-void CMainWindow::allChildren(QObject* parent, QList<QObject*>& children)
-{
-    for (QObject* child : parent->children()) {
-        auto* widget = qobject_cast<QWidget*>(child);
-        if (!widget || widget->isWindow())
-            continue;
-        children.append(child);
-        allChildren(child, children);
-    }
+    QWidget* widget = CFocusSearch(this, m_arrowKeyStepLen).detect(m_pPrevFocusWidget, direction, type);
+    if (!widget)
+        return false;
+    setWidgetFocus(m_pPrevFocusWidget, false);
+    m_pPrevFocusWidget = widget;
+    setWidgetFocus(widget, true);
+    return true;
 }
 
 void CMainWindow::setWidgetFocus(QObject* widget, bool on)

@@ -1,4 +1,5 @@
 #include "advancemenu.h"
+#include "focussearch.h"
 #include "mainwindow.h"
 #include "powermonitor.h"
 #include "sigtransfer.h"
@@ -14,6 +15,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QRegularExpression>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -85,6 +87,10 @@ private slots:
     void arrowsMoveAndEnterTouches();
     void repeatedKeyIsOne();
     void keysWithTestApplicationInFront();
+    void strips_data();
+    void strips();
+    void everyControlIsReached_data();
+    void everyControlIsReached();
 
     void lockTogglesMarkAndRegion();
     void lockedTouchesDoNothing();
@@ -203,6 +209,122 @@ void TestKeys::keysWithTestApplicationInFront()
     press(Qt::Key_Down);
     QVERIFY(!marked());
     m_window->setWindowVisible(true);
+}
+
+void TestKeys::strips_data()
+{
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("step");
+    QTest::addColumn<QRect>("strip");
+    using S = CFocusSearch;
+    // Of a widget at (100, 100), 60 by 40: its last column is 159, its last row 139.
+    QTest::newRow("linear left") << int(S::DetectLeft) << int(S::LinearDetect) << 1 << QRect(50, 100, 50, 40);
+    QTest::newRow("linear up") << int(S::DetectUp) << int(S::LinearDetect) << 2 << QRect(100, 0, 60, 100);
+    QTest::newRow("linear right") << int(S::DetectRight) << int(S::LinearDetect) << 1
+                                  << QRect(159, 100, 50, 40);
+    QTest::newRow("linear down") << int(S::DetectDown) << int(S::LinearDetect) << 3
+                                 << QRect(100, 139, 60, 150);
+    QTest::newRow("radial left") << int(S::DetectLeft) << int(S::RadialDetect) << 1 << QRect(45, 1, 50, 479);
+    QTest::newRow("radial up") << int(S::DetectUp) << int(S::RadialDetect) << 1 << QRect(1, 45, 798, 50);
+    QTest::newRow("radial right") << int(S::DetectRight) << int(S::RadialDetect) << 2
+                                  << QRect(164, 1, 100, 479);
+    QTest::newRow("radial down") << int(S::DetectDown) << int(S::RadialDetect) << 1 << QRect(1, 144, 798, 50);
+    QTest::newRow("none") << int(S::DetectDown) << int(S::NoDetect) << 1 << QRect(-1, -1, 801, 481);
+}
+
+void TestKeys::strips()
+{
+    QFETCH(int, direction);
+    QFETCH(int, type);
+    QFETCH(int, step);
+    QWidget root;
+    root.resize(800, 460);
+    auto* widget = new CPushButton(&root);
+    widget->setGeometry(100, 100, 60, 40);
+    const CFocusSearch search(&root);
+    QTEST(search.getDetectRect(
+              widget, step, CFocusSearch::DetectDirection(direction), CFocusSearch::DetectType(type)),
+        "strip");
+}
+
+void TestKeys::everyControlIsReached_data()
+{
+    QTest::addColumn<int>("toolPage"); // open page of the tool box, -1 for none
+    QTest::addColumn<int>("utility");
+    for (int page = -1; page < 3; ++page)
+        QTest::addRow("home, tool box page %d", page) << page << int(UTILITY_ID_BEGIN);
+    const struct
+    {
+        const char* name;
+        int id;
+    } pages[] = {
+        {"advanced", UTILITY_ID_ADVTOOL},
+        {"settings", UTILITY_ID_SETTINGS},
+        {"more settings", UTILITY_ID_SETTING_MORE},
+        {"about", UTILITY_ID_ABOUT},
+        {"backlight", UTILITY_ID_BACKLIGHT},
+        {"ip tools", UTILITY_ID_IP_TOOLS},
+    };
+    for (const auto& page : pages) {
+        for (int tool = -1; tool < 3; ++tool)
+            QTest::addRow("%s, tool box page %d", page.name, tool) << tool << page.id;
+    }
+}
+
+void TestKeys::everyControlIsReached()
+{
+    QFETCH(int, toolPage);
+    QFETCH(int, utility);
+    const auto buttons = [this] {
+        QVector<QPushButton*> found;
+        for (QObject* child : CFocusSearch(m_window.get()).allChildren(m_window.get())) {
+            auto* button = qobject_cast<QPushButton*>(child);
+            if (button && button->isVisibleTo(m_window.get()))
+                found.append(button);
+        }
+        return found;
+    };
+    if (utility != UTILITY_ID_BEGIN) {
+        const int before = buttons().size();
+        m_window->changeCurrentUtil(utility);
+        QTRY_VERIFY(buttons().size() > before + 2); // more than Home and Close: the page is up
+    }
+    toolBox()->setOpenPage(toolPage);
+
+    const CFocusSearch search(m_window.get());
+    const auto reachedFrom = [&search](QWidget* first) {
+        QSet<QWidget*> reached{first};
+        QVector<QWidget*> open{first};
+        while (!open.isEmpty()) {
+            QWidget* from = open.takeLast();
+            for (int d = CFocusSearch::DetectLeft; d <= CFocusSearch::DetectDown; ++d) {
+                const auto direction = CFocusSearch::DetectDirection(d);
+                QWidget* next = search.detect(from, direction, CFocusSearch::LinearDetect);
+                if (!next)
+                    next = search.detect(from, direction, CFocusSearch::RadialDetect);
+                if (next && !reached.contains(next)) {
+                    reached.insert(next);
+                    open.append(next);
+                }
+            }
+        }
+        return reached;
+    };
+    // From whichever control one starts, every other can be reached: nothing is trapped.
+    QStringList missed;
+    for (QPushButton* first : buttons()) {
+        const QSet<QWidget*> reached = reachedFrom(first);
+        for (QPushButton* button : buttons()) {
+            if (button->isEnabled() && !reached.contains(button))
+                missed << QStringLiteral("%1 \"%2\" %3,%4 from \"%5\" %6")
+                              .arg(QLatin1String(button->metaObject()->className()), button->text())
+                              .arg(search.globalRect(button).x())
+                              .arg(search.globalRect(button).y())
+                              .arg(first->text(), first->objectName());
+        }
+    }
+    QVERIFY2(missed.isEmpty(), qPrintable(QStringList(missed.mid(0, 12)).join(QLatin1String("; "))));
 }
 
 void TestKeys::lockTogglesMarkAndRegion()
