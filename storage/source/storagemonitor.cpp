@@ -10,12 +10,12 @@
 namespace {
 
 // Pixels
-constexpr int Width = 620;
+constexpr int Width = 628;
 constexpr int TitleHeight = 48;
 constexpr int TitleTextSize = 24;
 constexpr int TextSize = 18;
 constexpr int RowHeight = 36;
-constexpr int Margin = 20;
+constexpr int Margin = 14;
 constexpr int Gap = 8;
 constexpr int ValueWidth = 108; // ten digits
 constexpr int ButtonWidth = 120;

@@ -250,31 +250,17 @@ void TestPowerMonitor::languageChangesWhileUp()
 
 void TestPowerMonitor::textsFitAndAreReadable_data()
 {
-    QTest::addColumn<Phrases>("phrases");
-    QTest::newRow("english") << Phrases();
-    QTest::newRow("german") << Phrases{
-        {"Power Information", QStringLiteral("Informationen zur Stromversorgung")},
-        {"Power Source", QStringLiteral("Stromquelle")}, {"Battery Status", QStringLiteral("Akkuzustand")},
-        {"Fully Charged", QStringLiteral("Vollständig geladen")},
-        {"Discharging...", QStringLiteral("Akku wird entladen...")},
-        {"Remaining Capacity", QStringLiteral("Verbleibende Kapazität")},
-        {"Remaining Time", QStringLiteral("Verbleibende Laufzeit")}, {"hours", QStringLiteral("Stunden")},
-        {"mins", QStringLiteral("Minuten")}};
-    QTest::newRow("russian") << Phrases{{"Power Information", QStringLiteral("Сведения об электропитании")},
-        {"Power Source", QStringLiteral("Источник питания")},
-        {"Battery Status", QStringLiteral("Состояние батареи")},
-        {"Discharging...", QStringLiteral("Батарея разряжается...")},
-        {"Remaining Capacity", QStringLiteral("Оставшаяся ёмкость")},
-        {"Remaining Time", QStringLiteral("Оставшееся время")}, {"hours", QStringLiteral("часов")},
-        {"mins", QStringLiteral("минут")}, {"OK", QStringLiteral("ОК")}};
+    CShellLanguage::addRows();
 }
 
 void TestPowerMonitor::textsFitAndAreReadable()
 {
-    QFETCH(Phrases, phrases);
-    const CInstalledPhrasebook language(phrases);
+    QFETCH(int, language);
+    const CShellLanguage shell{LanguageCode(language)};
+    QVERIFY(shell.isLoaded());
     CPowerMonitor page;
-    for (const PowerStatus& status : {powerRecord(true, 100, 100, 23 * 60 + 59, 0), Charging, Full}) {
+    for (const PowerStatus& status :
+        {powerRecord(true, 100, 100, 23 * 60 + 59, 0), Charging, powerRecord(false, 100, 100, 0, 1), Full}) {
         page.updatePowerStatus(status);
         page.show();
         QVERIFY(QTest::qWaitForWindowExposed(&page));

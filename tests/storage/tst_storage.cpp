@@ -51,23 +51,6 @@ QStringList df(const QString& path, int blockSize)
         .split(QLatin1Char(' '));
 }
 
-Phrases phrases(const char* language)
-{
-    if (qstrcmp(language, "German") == 0)
-        return {{"Storage Information", "Speicherinformationen"_s},
-            {"Internal Storage", "Interner Speicher"_s}, {"USB Drive detected", "USB-Laufwerk erkannt"_s},
-            {"USB Drive is in use", "USB-Laufwerk in Gebrauch"_s},
-            {"NO USB Drive detected", "KEIN USB-Laufwerk erkannt"_s}, {"1K blocks", "1K-Blöcke"_s},
-            {"4K blocks", "4K-Blöcke"_s}, {"Used", "Belegt"_s}, {"Available", "Verfügbar"_s},
-            {"Used Ratio", "Belegungsgrad"_s}};
-    return {{"Storage Information", "Сведения о хранилище"_s}, {"Internal Storage", "Внутренняя память"_s},
-        {"USB Drive detected", "USB-накопитель обнаружен"_s},
-        {"USB Drive is in use", "USB-накопитель занят"_s},
-        {"NO USB Drive detected", "USB-накопитель НЕ найден"_s}, {"1K blocks", "Блоки по 1К"_s},
-        {"4K blocks", "Блоки по 4К"_s}, {"Used", "Использовано"_s}, {"Available", "Доступно"_s},
-        {"Used Ratio", "Доля занятого"_s}};
-}
-
 } // namespace
 
 class tst_Storage : public QObject
@@ -244,20 +227,20 @@ void tst_Storage::page()
 
 void tst_Storage::languages_data()
 {
-    QTest::addColumn<QString>("inUse");
-    QTest::newRow("German") << "USB-Laufwerk in Gebrauch"_s;
-    QTest::newRow("Russian") << "USB-накопитель занят"_s;
+    CShellLanguage::addRows();
 }
 
 void tst_Storage::languages()
 {
+    QFETCH(int, language);
     CStorageMonitor page;
     page.updateStorageStatus(record(1, 2, true, Most, Most));
     page.show();
     QVERIFY(QTest::qWaitForWindowExposed(&page));
-    const CInstalledPhrasebook language(phrases(QTest::currentDataTag()));
+    const CShellLanguage shell{LanguageCode(language)};
+    QVERIFY(shell.isLoaded());
     page.translate(); // while it is up
-    QTEST(textOf(page, "usbd"), "inUse");
+    QCOMPARE(textOf(page, "usbd"), QCoreApplication::translate("CStorageMonitor", "USB Drive is in use"));
     lookAt(page);
     page.updateStorageStatus(record(1, 2));
     lookAt(page);

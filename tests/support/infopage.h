@@ -1,5 +1,6 @@
 #pragma once
 
+#include "commutils.h"
 #include "phrasebook.h"
 #include "widgets/dialog/dialog.h"
 #include "widgets/label/label.h"
@@ -9,7 +10,9 @@
 #include <QApplication>
 #include <QImage>
 #include <QKeyEvent>
+#include <QTest>
 #include <QTimer>
+#include <QTranslator>
 
 #include <algorithm>
 
@@ -32,6 +35,41 @@ public:
 
 private:
     CPhrasebook m_phrasebook;
+};
+
+/** A language of the shell, with its texts and font, while this object lives. */
+class CShellLanguage
+{
+public:
+    explicit CShellLanguage(LanguageCode code)
+        : m_fontBefore(QApplication::font())
+    {
+        const QString directory = QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/lang");
+        m_isLoaded = m_translator.load(QStringLiteral("zentra_") + CUICommUtils::toLangType(code), directory);
+        QCoreApplication::installTranslator(&m_translator);
+        QApplication::setFont(CUICommUtils::getLangFont(code));
+    }
+    ~CShellLanguage()
+    {
+        QCoreApplication::removeTranslator(&m_translator);
+        QApplication::setFont(m_fontBefore);
+    }
+    CShellLanguage(const CShellLanguage&) = delete;
+    CShellLanguage& operator=(const CShellLanguage&) = delete;
+
+    bool isLoaded() const { return m_isLoaded; }
+    /** A row for each language in the column "language". */
+    static void addRows()
+    {
+        QTest::addColumn<int>("language");
+        for (const char* type : {"en", "zh_CN", "ge", "fr", "ja", "hu", "ru"})
+            QTest::newRow(type) << int(CUICommUtils::toLangCode(QLatin1String(type)));
+    }
+
+private:
+    QFont m_fontBefore;
+    QTranslator m_translator;
+    bool m_isLoaded = false;
 };
 
 /** Presses a button of the next page that opens: by touch, or with the arrow keys and Enter. */
