@@ -64,6 +64,7 @@ def environment(source, build, runtime, has_screen):
     result.update(
         HOME="/home/root", USER="root", LOGNAME="root", LANG="C.UTF-8", XDG_RUNTIME_DIR=runtime,
         QT_QPA_PLATFORM="xcb" if has_screen else "offscreen",
+        QT_XCB_GL_INTEGRATION="none",  # the shell sets it for itself; tests of its parts run as it does
         INSTRUMENT_SOURCE=source, INSTRUMENT_BUILD=build,
         PATH="%s:/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin" % TOOLS)
     result.pop("TMPDIR", None)
