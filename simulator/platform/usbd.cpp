@@ -1,9 +1,10 @@
 // The USB daemon: takes up the shell's requests to take the drive in or to release it.
 //
 // A request is an empty file in the marker directory ("req-mount", "req-umount"). The daemon removes it and,
-// when a drive is plugged in ("stat-plugged"), tells the outcome by "stat-mounted". Runs until it is ended.
+// when a drive is plugged in ("stat-plugged"), does what it asks for by simctl. Runs until it is ended.
+#include <cerrno>
 #include <cstdio>
-#include <fcntl.h>
+#include <cstdlib>
 #include <sys/inotify.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,37 +13,25 @@ namespace {
 
 constexpr char Directory[] = "/tmp/var/lib/usbd";
 constexpr char Plugged[] = "/tmp/var/lib/usbd/stat-plugged";
-constexpr char Mounted[] = "/tmp/var/lib/usbd/stat-mounted";
 
 constexpr struct
 {
     const char* file;
-    bool mounts;
+    const char* command;
 } Requests[] = {
-    {"/tmp/var/lib/usbd/req-mount", true},
-    {"/tmp/var/lib/usbd/req-umount", false},
+    {"/tmp/var/lib/usbd/req-mount", "simctl usb mount"},
+    {"/tmp/var/lib/usbd/req-umount", "simctl usb release"},
 };
-
-void setMounted(bool mounted)
-{
-    if (!mounted) {
-        ::unlink(Mounted);
-        return;
-    }
-    if (::access(Plugged, F_OK) != 0) {
-        std::fprintf(stderr, "usbd: no drive to mount\n");
-        return;
-    }
-    const int fd = ::open(Mounted, O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
-    if (fd >= 0)
-        ::close(fd);
-}
 
 void takeUpRequests()
 {
     for (const auto& request : Requests) {
-        if (::unlink(request.file) == 0)
-            setMounted(request.mounts);
+        if (::unlink(request.file) != 0)
+            continue;
+        if (::access(Plugged, F_OK) != 0)
+            std::fprintf(stderr, "usbd: no drive for %s\n", request.file);
+        else if (std::system(request.command) != 0)
+            std::fprintf(stderr, "usbd: '%s' failed\n", request.command);
     }
 }
 
@@ -59,6 +48,7 @@ int main()
     alignas(inotify_event) char events[4096];
     do
         takeUpRequests(); // what was left before the watch began, too
-    while (::read(watch, events, sizeof events) > 0);
-    return 0;
+    while (::read(watch, events, sizeof events) > 0 || errno == EINTR);
+    std::perror("usbd: the watch ended");
+    return 1;
 }

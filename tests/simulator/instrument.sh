@@ -153,14 +153,27 @@ initctl start orlo-vnc >/dev/null; initctl stop orlo-vnc|orlo-vnc stop/waiting
 simctl service orlo-cli fail; initctl start orlo-cli|initctl: Job failed to start: orlo-cli
 initctl start nonsense|initctl: Unknown job: nonsense
 TABLE
-# The USB daemon takes up what the shell's device monitor asks for, when there is a drive.
-expect 'USB requests' 'mounted plugged none' "$(instrument --profile full -- sh -c '
+# The USB daemon takes up what the shell's device monitor asks for, when there is a drive; what was written to the
+# drive is on it the next time.
+expect 'USB requests' 'mounted plugged empty mounted kept refused unplugged' "$(instrument --profile full -- sh -c '
     cd /tmp/var/lib/usbd
-    ask() { : >req-$1; for _ in 1 2 3 4 5 6 7 8 9 10; do [ ! -e req-$1 ] || sleep 0.1; done; }
-    simctl usb plug; ask mount; a=$(simctl status | sed -n "s/^usb *//p")
-    ask umount; b=$(simctl status | sed -n "s/^usb *//p")
-    simctl usb unplug; ask mount; [ -e stat-mounted ] && c=mounted || c=none
-    echo "$a $b $c"')"
+    until_within_5s() { tries=100; until eval "$1"; do tries=$((tries - 1)); [ $tries -gt 0 ] || return 1; sleep 0.05; done; }
+    usb() { simctl status | sed -n "s/^usb *//p"; }
+    ask() { : >req-$1; until_within_5s "[ ! -e req-$1 ] && [ \$(usb) = $2 ]"; usb; }
+    simctl usb plug
+    ask mount mounted
+    echo >/home/usbd/written
+    ask umount plugged
+    [ -e /home/usbd/written ] || echo empty
+    ask mount mounted
+    [ -e /home/usbd/written ] && [ -e /home/usbd/readme.txt ] && echo kept
+    simctl usb unplug
+    : >req-mount; until_within_5s "grep -q \"no drive\" /tmp/var/log/usbd.log" && echo refused
+    usb' | tr '\n' ' ' | sed 's/ $//')"
+expect 'status shows the lock' 'unlocked locked' "$(bare -- sh -c '
+    simctl status | sed -n "s/^lock *//p"; : >/tmp/screen-locked.mark; simctl status | sed -n "s/^lock *//p"' | xargs)"
+expect 'status shows the services' 'orlo-cli stop/waiting; orlo-vnc start/running, process N' "$(bare -- sh -c '
+    initctl start orlo-vnc >/dev/null; simctl status' | sed -n 's/^services *//p' | sed 's/process [0-9]*/process N/')"
 for line in 'service' 'service nonsense start' 'wifi' 'wifi on' 'wifi link' 'wifi link 101' 'wifi link -1' 'usb' 'usb eject' 'fail' 'fail 0' 'fail 12' \
     'segment' 'daemon stop' 'viewers x' 'nonsense'; do
     # shellcheck disable=SC2086
