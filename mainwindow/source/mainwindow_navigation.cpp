@@ -92,18 +92,25 @@ void CMainWindow::tapFocusWidget()
     const QPointF local = widget->rect().center();
     const QPointF inWindow = widget->mapTo(widget->window(), local.toPoint());
     const QPointF onScreen = widget->mapToGlobal(local.toPoint());
+    if (m_nonInteractiveRegion.contains(onScreen.toPoint()))
+        return; // a touch there would be dropped
     const auto post = [&](QEvent::Type type, Qt::MouseButtons buttons) {
         QApplication::postEvent(widget,
             new QMouseEvent(type, local, inWindow, onScreen, Qt::LeftButton, buttons, Qt::NoModifier));
     };
     post(QEvent::MouseButtonPress, Qt::LeftButton);
-    // The press is handled after the sleep; its look has to be on the screen before.
-    if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+    // The press is handled after the sleep; its look has to be on the screen before. What the press itself
+    // sets is left to it: a disabled button does not take it, and would look pressed for ever.
+    auto* button = qobject_cast<QAbstractButton*>(widget);
+    const bool showPress = button && button->isEnabled() && !button->isDown();
+    if (showPress) {
         button->setDown(true);
         button->repaint();
         flushScreen();
     }
     QThread::msleep(TAP_TIME);
+    if (showPress)
+        button->setDown(false);
     post(QEvent::MouseButtonRelease, Qt::NoButton);
 }
 
@@ -129,7 +136,8 @@ QWidget* CMainWindow::firstFocusWidget()
     const CFocusSearch search(this);
     for (QObject* child : search.allChildren(this)) {
         auto* button = qobject_cast<QPushButton*>(child);
-        if (button && button->isVisibleTo(this) && page.contains(search.globalRect(button).center()))
+        if (button && button->isEnabled() && button->isVisibleTo(this)
+            && page.contains(search.globalRect(button).center()))
             return button;
     }
     for (QObject* child : search.allChildren(m_pToolBox)) {
