@@ -67,6 +67,7 @@ void CMainWindow::initialize()
 {
     signalInit();
     loadSysSettings();
+    setScreenLocked(false); // an earlier run may have ended locked, and left its mark
 
     m_pTrans = new QTranslator(this);
     m_pMenuStack = std::make_unique<CMenuStack>();

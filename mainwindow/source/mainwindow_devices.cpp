@@ -54,6 +54,9 @@ void CMainWindow::wakeupScreen()
     m_pDevMonitor->wakeupScreen(source.isBattery, setting(source.brightness).toInt());
     const QSignalBlocker blocker(timer);
     timer->stop();
+    // The source may have changed a moment ago: a time never taken over would be none, and end at once.
+    if (timer->interval() == 0)
+        timer->setInterval(setting(source.time).toInt() * 1000);
     timer->start();
 }
 
@@ -210,8 +213,7 @@ void CMainWindow::restoreLastUtilState()
 {
     // The page took the whole screen's touches; the test application gets its part back.
     m_curUtilID = m_prevUtilID;
-    if (!bIsUILocked)
-        procDelayUnlock();
+    procDelayUnlock();
 }
 
 void CMainWindow::installUSBDrive()

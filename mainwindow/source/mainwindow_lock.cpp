@@ -6,12 +6,14 @@
 #include "systemsettings.h"
 #include "widgets/messagebox/messagebox.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
+#include <QSaveFile>
 #include <QScreen>
 #include <QThread>
 
@@ -43,11 +45,15 @@ void CMainWindow::saveScreen()
               .arg(m_saveScreenDirPath,
                   QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_hhmmss")));
     const QPixmap picture = QGuiApplication::primaryScreen()->grabWindow(0);
-    // A full disk or a directory that cannot be written costs the picture and nothing else.
-    if (!picture.save(fileName, "PNG")) {
-        qWarning().noquote() << "Can not save the screen to" << fileName;
-        QFile::remove(fileName);
-    }
+    // A full disk or a directory that cannot be written costs the picture and nothing else: no half of a file
+    // stays, and what an earlier press saved is only replaced by a whole picture. Written in one piece and
+    // without a buffer: a buffered file does not tell of a short write.
+    QBuffer png;
+    QSaveFile file(fileName);
+    if (!png.open(QIODevice::WriteOnly) || !picture.save(&png, "PNG")
+        || !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(png.data()) != png.size()
+        || !file.commit())
+        qWarning().noquote() << "Can not save the screen to" << fileName << '-' << file.errorString();
     ++m_saveScreenCount; // attempts, not files
 }
 

@@ -10,6 +10,7 @@
 #include "systemsettingsmenu.h"
 #include "widgets/pushbutton/pushbutton.h"
 #include "widgets/toolbox/toolbox.h"
+#include "widgets/touchregion/touchregion.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QApplication>
@@ -87,13 +88,11 @@ void CMainWindow::mousePressEvent(QMouseEvent* event)
 void CMainWindow::tapFocusWidget()
 {
     QWidget* widget = m_pPrevFocusWidget;
-    if (!widget)
+    if (!widget || isTouchDropped(widget))
         return;
     const QPointF local = widget->rect().center();
     const QPointF inWindow = widget->mapTo(widget->window(), local.toPoint());
     const QPointF onScreen = widget->mapToGlobal(local.toPoint());
-    if (m_nonInteractiveRegion.contains(onScreen.toPoint()))
-        return; // a touch there would be dropped
     const auto post = [&](QEvent::Type type, Qt::MouseButtons buttons) {
         QApplication::postEvent(widget,
             new QMouseEvent(type, local, inWindow, onScreen, Qt::LeftButton, buttons, Qt::NoModifier));

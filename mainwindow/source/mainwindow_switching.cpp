@@ -146,6 +146,8 @@ void CMainWindow::pluginRequestToClose()
 
 void CMainWindow::procDelayUnlock()
 {
+    if (bIsUILocked)
+        return; // only F4 ends that, and then sets the region
     if (m_winVisibleReason == TestAppForeground)
         setNonInteractiveRegion(ExcludeBottomBar, QRect());
     else if (m_winVisibleReason == TestAppBackground)

@@ -233,7 +233,8 @@ QList<CPushButton*> CDialog::touchableButtons() const
 
 void CDialog::pressMarked()
 {
-    if (CPushButton* marked = markedButton())
+    CPushButton* marked = markedButton();
+    if (marked && !isTouchDropped(marked))
         marked->animateClick(PressShown);
 }
 

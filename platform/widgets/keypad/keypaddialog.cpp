@@ -4,6 +4,7 @@
 #include "widgets/keypad/keypadlayout.h"
 #include "widgets/label/label.h"
 #include "widgets/messagebox/messagebox.h"
+#include "widgets/touchregion/touchregion.h"
 #include "widgets/widgetstyle/stylepainter.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
@@ -218,7 +219,8 @@ void CKeyPadDialog::keyPressEvent(QKeyEvent* event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isEnter && !event->isAutoRepeat() && !markedButton()) {
-        m_pOk->animateClick();
+        if (!isTouchDropped(m_pOk))
+            m_pOk->animateClick();
         event->accept();
         return;
     }

@@ -152,7 +152,7 @@ void CParmList::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         // A held key that opened the list must not choose from it as well.
-        if (!event->isAutoRepeat() && m_marked >= 0)
+        if (!event->isAutoRepeat() && m_marked >= 0 && !isTouchDropped(this))
             choose(m_marked);
         break;
     case Qt::Key_Escape:

@@ -136,3 +136,10 @@ void installTouchRegion()
     installed = new CTouchRegion(qApp);
     qApp->installEventFilter(installed);
 }
+
+bool isTouchDropped(const QWidget* widget)
+{
+    return qApp->property("NonInteractiveRegion")
+        .toRect()
+        .contains(widget->mapToGlobal(widget->rect().center()));
+}

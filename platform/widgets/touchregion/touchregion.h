@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QObject>
+class QWidget;
 
 /**
  * Drops mouse and touch events anywhere in the process whose position on the screen lies in the application
@@ -10,3 +10,6 @@
  * call it, so a program that uses the controls needs no call of its own.
  */
 void installTouchRegion();
+
+/** True when a touch on the middle of a widget would be dropped; a control that a key presses asks first. */
+bool isTouchDropped(const QWidget* widget);
