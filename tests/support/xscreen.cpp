@@ -3,6 +3,7 @@
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
+#include <X11/extensions/XTest.h>
 
 CXScreen::CXScreen()
     : m_display(XOpenDisplay(nullptr))
@@ -69,4 +70,12 @@ ShellWindow CXScreen::findShellWindow() const
         }
     }
     return {};
+}
+
+void CXScreen::touch(const QPoint& at) const
+{
+    XTestFakeMotionEvent(m_display, -1, at.x(), at.y(), CurrentTime);
+    XTestFakeButtonEvent(m_display, 1, True, CurrentTime);
+    XTestFakeButtonEvent(m_display, 1, False, CurrentTime);
+    XSync(m_display, False);
 }

@@ -32,6 +32,9 @@ public:
     /** The application index property of a window; -1 when it is not one 32-bit integer. */
     int appIndexOf(unsigned long window) const;
 
+    /** Touches a point of the screen, as the touch screen's driver does: pressed and released. */
+    void touch(const QPoint& at) const;
+
 private:
     _XDisplay* m_display;
 };
