@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QStandardPaths>
 #include <QVarLengthArray>
+#include <QVector>
 
 #include <cerrno>
 #include <cstring>
@@ -28,6 +29,7 @@ struct Launch
 {
     const char* program;
     char* const* arguments;
+    char* const* environment;
     int input;
     int output;
     int reports;
@@ -64,6 +66,14 @@ QString findProgram(const QString& name)
     return QStandardPaths::findExecutable(name,
         {QStringLiteral("/usr/local/sbin"), QStringLiteral("/usr/local/bin"), QStringLiteral("/usr/sbin"),
             QStringLiteral("/usr/bin"), QStringLiteral("/sbin"), QStringLiteral("/bin")});
+}
+
+QList<QByteArray> keptTexts;
+QVector<char*> kept; // their addresses and a null; empty: nothing is kept
+
+char* const* commandEnvironment()
+{
+    return kept.isEmpty() ? environ : kept.constData();
 }
 
 void sendReport(int fd, Event event, int value)
@@ -114,7 +124,7 @@ void restoreSignals()
         && ::dup2(launch.output, STDERR_FILENO) >= 0) {
         closeOthers(launch);
         restoreSignals();
-        ::execve(launch.program, launch.arguments, environ);
+        ::execve(launch.program, launch.arguments, launch.environment);
     }
     sendReport(launch.reports, Event::Failed, errno);
     ::_exit(127);
@@ -148,7 +158,7 @@ bool CDetachedCommand::start(const QStringList& argv, Output output)
         return fail(name, errno);
     rlimit limit = {};
     ::getrlimit(RLIMIT_NOFILE, &limit);
-    const Launch launch = {program.constData(), arguments.constData(), null.get(),
+    const Launch launch = {program.constData(), arguments.constData(), commandEnvironment(), null.get(),
         output == Output::Pipe ? outputWrite.get() : null.get(), reportWrite.get(),
         static_cast<int>(qMin<rlim_t>(limit.rlim_cur, 65536))};
 
@@ -190,6 +200,17 @@ bool CDetachedCommand::start(const QStringList& argv, Output output)
         ::fcntl(outputRead.get(), F_SETFL, O_NONBLOCK);
     m_output = std::move(outputRead);
     return true;
+}
+
+void CDetachedCommand::keepEnvironment()
+{
+    keptTexts.clear();
+    kept.clear();
+    for (char** variable = environ; *variable; ++variable)
+        keptTexts << QByteArray(*variable);
+    for (QByteArray& text : keptTexts)
+        kept << text.data();
+    kept << nullptr;
 }
 
 bool CDetachedCommand::terminate(int signalNumber)

@@ -17,8 +17,8 @@
  * its output line by line use CCommandLines or readCommandLines() (commandlines.h).
  *
  * The command runs by argument list, without a shell. It gets /dev/null as standard input, the default signal
- * mask and dispositions, a process group of its own, this process's environment and working directory, and no
- * other descriptor of this process.
+ * mask and dispositions, a process group of its own, this process's environment (see keepEnvironment()) and
+ * working directory, and no other descriptor of this process.
  *
  * The destructor closes the reading end and leaves the command running. One thread at a time; any thread.
  */
@@ -42,6 +42,12 @@ public:
      * before goes on running.
      */
     bool start(const QStringList& argv, Output output = Output::Pipe);
+
+    /**
+     * Commands started from now on get this process's environment as it is now, whatever is set in it later;
+     * without this call, as it is when they start. Before there is a second thread.
+     */
+    static void keepEnvironment();
 
     /** Process id and process group of the command; -1 before a successful start. */
     pid_t pid() const { return m_pid; }

@@ -50,6 +50,7 @@ private slots:
     void startFailures_data();
     void startFailures();
     void environmentOfTheCommand();
+    void keptEnvironment();
     void commandIsNoChild();
     void missingStandardInput();
     void discardedOutput();
@@ -164,6 +165,18 @@ void tst_DetachedCommand::environmentOfTheCommand()
     QCOMPARE(lines,
         (Lines{"0, 1, 2"_s, "/dev/null"_s, "SigBlk:\t0000000000000000"_s, "SigIgn:\t0000000000000000"_s,
             "error"_s, "own group"_s}));
+}
+
+void tst_DetachedCommand::keptEnvironment()
+{
+    const QStringList show = shell("echo $OWN_ONLY $BEFORE");
+    qputenv("BEFORE", "before");
+    CDetachedCommand::keepEnvironment();
+    qputenv("OWN_ONLY", "own");
+    qunsetenv("BEFORE");
+    QCOMPARE(linesOf(show), Lines{"before"_s});
+    CDetachedCommand::keepEnvironment();
+    QCOMPARE(linesOf(show), Lines{"own"_s});
 }
 
 void tst_DetachedCommand::commandIsNoChild()
