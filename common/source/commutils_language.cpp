@@ -67,11 +67,10 @@ QString CUICommUtils::getTranslateFileName(LanguageCode code)
 QFont CUICommUtils::getLangFont(LanguageCode code)
 {
     const Language& language = find(code);
-    QFont font;
+    QFont font(QString::fromLatin1(language.fontFamily)); // not of the language before, which may be bold
     font.setStyleStrategy(QFont::NoAntialias);
     font.setStyleHint(
         QFont::SansSerif, QFont::PreferDevice); // takes the place of the strategy before, as wanted
-    font.setFamily(QString::fromLatin1(language.fontFamily));
     font.setPixelSize(language.pixelSize);
     if (language.bold != Bold::NotSet)
         font.setBold(language.bold == Bold::Yes);

@@ -173,13 +173,13 @@ void tst_CommUtils::language_data()
     QTest::newRow("Chinese") << int(LANGUAGE_CHINESE) << "zh_CN"_s
                              << "WenQuanYi Micro Hei"_s << 16 << int(QFont::Normal) << QByteArray("Chinese");
     QTest::newRow("German") << int(LANGUAGE_GERMAN) << "ge"_s
-                            << "Arial"_s << 15 << int(QFont::Light) << QByteArray("German");
+                            << "Arial"_s << 15 << int(QFont::Normal) << QByteArray("German");
     QTest::newRow("French") << int(LANGUAGE_FRENCH) << "fr"_s
-                            << "Arial"_s << 15 << int(QFont::Light) << QByteArray("French");
+                            << "Arial"_s << 15 << int(QFont::Normal) << QByteArray("French");
     QTest::newRow("Japanese") << int(LANGUAGE_JAPANESE) << "ja"_s
                               << "Arial Unicode MS"_s << 15 << int(QFont::Normal) << QByteArray("Japanese");
     QTest::newRow("Hungarian") << int(LANGUAGE_HUNGARIAN) << "hu"_s
-                               << "Arial"_s << 15 << int(QFont::Light) << QByteArray("Hungarian");
+                               << "Arial"_s << 15 << int(QFont::Normal) << QByteArray("Hungarian");
     QTest::newRow("Russian") << int(LANGUAGE_RUSSIAN) << "ru"_s
                              << "Segoe UI"_s << 16 << int(QFont::Normal) << QByteArray("Russian");
     QTest::newRow("none") << int(LANGUAGE_END) << "en"_s
