@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QSaveFile>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QThread>
 
@@ -59,14 +60,18 @@ void CMainWindow::saveScreen()
 
 void CMainWindow::reportScreenLimit()
 {
-    if (CUICommUtils::isTestAppDlgPopup())
+    if (m_isLimitReported || CUICommUtils::isTestAppDlgPopup())
         return;
+    m_isLimitReported = true; // F4 goes on coming while the box is up
+    const auto reported = qScopeGuard([this] { m_isLimitReported = false; });
     // The box would come up under the test application, so the shell waits for the screen and does nothing
-    // else. The word that it has come back is the one thing let through.
-    while (m_winVisibleReason == TestAppForeground) {
+    // else. The word that it has come back, and the end of the process, are all that is let through.
+    while (m_winVisibleReason == TestAppForeground && !m_isTerminating) {
         QThread::msleep(FOREGROUND_POLL);
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
+    if (m_isTerminating)
+        return;
     CMessageBox box(tr("Error saving screen!"),
         tr("Number of saved screenshots already reach\nor exceed maximum number allowed!"), CMessageBox::Ok,
         this);

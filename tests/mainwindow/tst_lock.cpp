@@ -138,10 +138,12 @@ private slots:
     void lostPicturesCount();
     void limitBelowTestApplicationDialog();
     void limitWaitsForTheTestApplication();
+    void limitIsToldOnce();
 
     void failureDismissedComesBack();
     void pagesFollowWhileOpen();
     void touchStartsTheBacklightTime();
+    void endDuringTheWaitForTheScreen(); // the last: the application ends with it
 
 private:
     void press(Qt::Key key, QWidget* receiver = nullptr)
@@ -379,6 +381,25 @@ void TestLock::limitWaitsForTheTestApplication()
     QVERIFY(isShellInFront);
 }
 
+void TestLock::limitIsToldOnce()
+{
+    setSetting(CSystemSettings::LockScreenORSaveScreen, false);
+    setSetting(CSystemSettings::SaveScreenMaxNum, 0);
+    int above = 0;
+    CWithDialog box([this, &above](CDialog* dialog) {
+        QTRY_VERIFY(m_sinceKey.elapsed() >= KEY_PAUSE);
+        CWithDialog second([&above](CDialog* other) {
+            ++above;
+            other->reject();
+        });
+        press(Qt::Key_F4, dialog);
+        dialog->reject();
+    });
+    press(Qt::Key_F4);
+    QVERIFY(box.isDone());
+    QCOMPARE(above, 0);
+}
+
 void TestLock::failureDismissedComesBack()
 {
     write(INDICATOR);
@@ -456,6 +477,19 @@ void TestLock::touchStartsTheBacklightTime()
     setSetting(CSystemSettings::ACBacklightEnabled, false);
     m_window->checkSystemSettings();
     QCOMPARE(running(), 0);
+}
+
+void TestLock::endDuringTheWaitForTheScreen()
+{
+    setSetting(CSystemSettings::LockScreenORSaveScreen, false);
+    setSetting(CSystemSettings::SaveScreenMaxNum, 0);
+    m_window->setWindowVisible(false);
+    QTimer::singleShot(0, this, [] { CMainWindow::signalHandler(SIGTERM); });
+    CWithDialog box([](CDialog* dialog) { dialog->reject(); });
+    QTest::keyClick(m_window.get(), Qt::Key_F4); // comes back although the test application stays in front
+    QVERIFY(!m_window->isNeedInteractive());
+    QVERIFY(!box.isDone());
+    setSetting(CSystemSettings::SaveScreenMaxNum, 50);
 }
 
 QTEST_MAIN(TestLock)
