@@ -1,4 +1,5 @@
 #include "commutils.h"
+#include "detachedcommand.h"
 #include "mainapplication.h"
 #include "mainwindow.h"
 #include "widgets/widgetstyle/widgetstyle.h"
@@ -26,6 +27,7 @@ void useOwnFontConfiguration()
 
 int main(int argc, char** argv)
 {
+    CDetachedCommand::keepEnvironment(); // what follows is for this process, not for the commands it starts
     // Nothing here draws with OpenGL, and loading it would cost 60 ms and 32 MB at every start.
     qputenv("QT_XCB_GL_INTEGRATION", "none");
     // The unit has no session bus. Without this, the first text on a button makes Qt look for one, for a
@@ -38,6 +40,7 @@ int main(int argc, char** argv)
     CMainApplication::setOrganizationName(QStringLiteral("zentra"));
     CMainApplication::setApplicationName(QStringLiteral("mainframe"));
     auto application = std::make_unique<CMainApplication>(argc, argv);
+    CMainApplication::setQuitOnLastWindowClosed(false); // it ends by a signal only, hidden or not
 
     useOwnFontConfiguration();
 

@@ -19,6 +19,7 @@
 #include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QPainter>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -225,6 +226,11 @@ int CMainWindow::execBox(CMessageBox& box)
     box.adjustSize();
     moveToWorkingAreaCenter(&box);
     return box.exec();
+}
+
+void CMainWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
 }
 
 void CMainWindow::paintEvent(QPaintEvent* event)

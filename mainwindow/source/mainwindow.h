@@ -132,6 +132,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    /** The shell stays, whoever asks for its window to be closed; only a signal ends it. */
+    void closeEvent(QCloseEvent* event) override;
 
 private slots:
     void itemChanged(int id);
@@ -167,6 +169,7 @@ private:
     void popMenuEntry();
     void popAllMenuEntry();
     void updateTopBarButtonState();
+    void markToolBoxItem();
     void setTopBarButtonStatus(bool home, bool close);
 
     // Switching
@@ -179,6 +182,7 @@ private:
     void startPlugin(UtilityID id);
     void connectPluginSignals(QObject* object);
     void showPluginError(const QString& text);
+    QString switchMessage() const;
     void showCurrentUtilPage();
     void hideCurrentUtilPage();
     void updateCurrentUtilPage();
@@ -252,6 +256,8 @@ private:
     InquireSysStatCode m_pInqSysStatCode = INQUIRE_SYS_STAT_NONE; // the page that waits
     bool m_isPainted = false;
     int m_saveScreenCount = 0; // screenshots asked for since the start
+    bool m_isLimitReported = false; // the box about their limit is up, or waits for the screen
+    bool m_isUtilStarting = false; // the start window is up and the plug-in not loaded yet
     QString m_saveScreenDirPath = QStringLiteral("/home/arvo/screen");
 
     PowerStatus m_powerStat;

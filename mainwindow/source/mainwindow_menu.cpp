@@ -8,6 +8,7 @@
 #include "pluginman.h"
 #include "services/processutils.h"
 #include "startutilwindow.h"
+#include "switchappwindow.h"
 #include "topbar.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/toolbox/toolbox.h"
@@ -105,15 +106,25 @@ void CMainWindow::translate()
     for (const auto& item : RELABEL_ITEMS)
         m_pToolBox->setItemText(item.page, item.item, tr(item.text));
     CWidget::translate();
-    updateNavigateInfo(m_prevUtilID);
+    // A page that offers no way back has the caption of the home page.
+    if (m_pTopBar->getAppStateInidcator()->isStatusVisible(StatusHome))
+        updateNavigateInfo(m_prevUtilID);
+    else
+        m_pTopBar->setNavigationText(tr("Home"));
+    if (m_pStartUtilWnd->isVisible())
+        m_pStartUtilWnd->showMessage(m_pPluginMan->getPluginName(m_prevUtilID));
+    if (m_pSwitchAppWnd->isVisible())
+        m_pSwitchAppWnd->showMessage(switchMessage());
     updateCurrentUtilPage();
 }
 
 void CMainWindow::itemChanged(int id)
 {
     if (id == UTILITY_ID_USB_BROWSER) {
-        if (isFSCaptureRunning() || isWSARunning())
+        if (isFSCaptureRunning() || isWSARunning()) {
+            markToolBoxItem();
             return;
+        }
         if (!m_storeStat.bIsPlugged) {
             CMessageBox box(
                 tr("Error"), tr("Cannot find USB drive attached to the unit!"), CMessageBox::Ok, this);
@@ -129,6 +140,17 @@ void CMainWindow::itemChanged(int id)
     if (isUtilAvailable(UtilityID(id)))
         pushMenuEntry(id, isFileEntry(id) ? 1 : 0);
     changeCurrentUtil(id);
+    markToolBoxItem();
+}
+
+void CMainWindow::markToolBoxItem()
+{
+    int marked = -1;
+    for (const MenuEntry& entry : m_pMenuStack->entries()) {
+        if (m_pToolBox->hasItem(entry.entryID))
+            marked = entry.entryID;
+    }
+    m_pToolBox->setCurrentItem(marked);
 }
 
 bool CMainWindow::isFSCaptureRunning()
@@ -166,6 +188,7 @@ void CMainWindow::popAllMenuEntry()
 
 void CMainWindow::updateTopBarButtonState()
 {
+    markToolBoxItem();
     if (m_pMenuStack->isEmpty())
         setTopBarButtonStatus(false, false);
     else if (m_pMenuStack->top().menuLevel == 0)

@@ -84,15 +84,18 @@ void CMainWindow::startPlugin(UtilityID id)
         QTimer::singleShot(BROWSER_INPUT_LOCK, this, &CMainWindow::procDelayUnlock);
     }
     m_CallerID = m_prevUtilID;
+    m_isUtilStarting = true;
     m_pTaskMan->startUtil(id);
 }
 
 void CMainWindow::utilReady(int id)
 {
-    // The user may have gone elsewhere while the start window was up.
+    // The user may have gone elsewhere while the start window was up, and even come back: then two words of
+    // readiness arrive, and the first one counts.
     const auto util = UtilityID(id);
-    if (util != m_prevUtilID)
+    if (util != m_prevUtilID || !m_isUtilStarting)
         return;
+    m_isUtilStarting = false;
 
     UtilInterface* plugin = m_pPluginMan->loadPlugin(util);
     if (!plugin) {
@@ -102,13 +105,16 @@ void CMainWindow::utilReady(int id)
     if (util == UTILITY_ID_SCREEN)
         setNonInteractiveRegion(FullScreen, QRect()); // the calibration owns all input
     plugin->setCallerID(m_CallerID);
-    if (!plugin->start(this)) {
-        qWarning("Plug-in %d did not start", id);
-        showPluginError(tr("The utility could not be started."));
-        return;
-    }
+    const bool isStarted = plugin->start(this);
     if (QObject* object = plugin->getObject())
         connectPluginSignals(object);
+    if (!isStarted) {
+        qWarning("Plug-in %d did not start", id);
+        m_pPluginMan->unloadPlugin();
+        if (util == UTILITY_ID_SCREEN)
+            procDelayUnlock(); // nobody is there to own the input, and the box needs it
+        showPluginError(tr("The utility could not be started."));
+    }
 }
 
 void CMainWindow::connectPluginSignals(QObject* object)
@@ -156,8 +162,11 @@ void CMainWindow::procDelayUnlock()
 
 void CMainWindow::leavePlugin()
 {
+    m_isUtilStarting = false;
     m_pStartUtilWnd->hide();
     m_pPluginMan->unloadPlugin();
+    if (m_prevUtilID == UTILITY_ID_SCREEN)
+        procDelayUnlock(); // the calibration owned all input
 }
 
 void CMainWindow::leaveUtilPage(UtilityID id)
@@ -203,16 +212,21 @@ void CMainWindow::showCurrentUtilPage()
         page->show();
         page->raise();
     }
+    if (m_testAppAction != ActionNone)
+        m_pSwitchAppWnd->start(switchMessage());
+}
+
+QString CMainWindow::switchMessage() const
+{
     switch (m_testAppAction) {
     case ActionLoad:
-        m_pSwitchAppWnd->start(tr("Loading test application, please wait..."));
-        break;
+        return tr("Loading test application, please wait...");
     case ActionRelease:
-        m_pSwitchAppWnd->start(tr("Releasing test application, please wait..."));
-        break;
+        return tr("Releasing test application, please wait...");
     case ActionNone:
         break;
     }
+    return {};
 }
 
 void CMainWindow::updateCurrentUtilPage()

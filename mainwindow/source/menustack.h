@@ -22,6 +22,8 @@ public:
 
     bool isEmpty() const { return m_entries.isEmpty(); }
     int count() const { return m_entries.size(); }
+    /** From the first step to the last. */
+    const QVector<MenuEntry>& entries() const { return m_entries; }
     /** The top entry; only on a stack that is not empty. */
     const MenuEntry& top() const { return m_entries.last(); }
 

@@ -73,8 +73,9 @@ void CTaskManager::finishTask()
     qDebug().noquote() << QStringLiteral("Operation %1 completed.").arg(m_operCode);
     m_operCode = NoCtrl;
     // A request that came between the last signal and the end of the thread found it still running.
-    if (m_utilID >= 0)
-        startUtil(m_utilID);
+    const int waiting = m_utilID;
+    if (waiting >= 0)
+        startUtil(waiting);
 }
 
 bool CTaskManager::isVNCClientAttached()

@@ -77,16 +77,20 @@ private slots:
     void usbWithoutDriveGoesHome();
     void missingLibraryShowsTheLoadersText();
     void calibrationNeedsConsent();
+    void calibrationGivesTheInputBack();
 
     void pluginLifeCycle();
     void closeOnSavedIsHome();
     void failedStartIsReported();
     void homeDuringTheWaitLoadsNothing();
+    void comingBackDuringTheWaitStartsOnce();
     void browserLocksInputForAWhile();
 
     void testApplicationInFront();
     void switchOverlay();
     void relabelAfterLanguageChange();
+    void captionAfterLanguageChange();
+    void closeRequestIsIgnored();
     void placement();
 
 private:
@@ -107,6 +111,16 @@ private:
         }
         QFAIL("no such tool box item");
     }
+    /** The tool box item that is marked as chosen, -1 for none. */
+    int markedItem() const
+    {
+        for (const auto* button : m_window->findChildren<CToolBoxButton*>()) {
+            if (button->isActive() && button->id() != -1)
+                return button->id();
+        }
+        return -1;
+    }
+    QRect region() const { return qApp->property("NonInteractiveRegion").toRect(); }
     template <typename Page> Page* page() const { return m_window->findChild<Page*>(); }
 
     std::unique_ptr<CMainWindow> m_window;
@@ -279,6 +293,15 @@ void TestMainWindow::unavailableUtilityKeepsThePage()
     QVERIFY(page<CAdvanceMenu>()->isVisible());
     QCOMPARE(caption(), QStringLiteral("Home>Tools>Advanced"));
     QVERIFY(!closeShown());
+    // In the tool box, too: the chosen item is not left marked.
+    StorageStatus attached;
+    attached.bIsPlugged = true;
+    QVERIFY(QMetaObject::invokeMethod(m_window.get(), "updateStorageStatus", Q_ARG(StorageStatus, attached)));
+    choose(UTILITY_ID_USB_BROWSER);
+    QVERIFY(QMetaObject::invokeMethod(
+        m_window.get(), "updateStorageStatus", Q_ARG(StorageStatus, StorageStatus())));
+    QVERIFY(page<CAdvanceMenu>()->isVisible());
+    QCOMPARE(markedItem(), int(UTILITY_ID_ADVTOOL));
 }
 
 void TestMainWindow::identifierOutOfRangeIsIgnored()
@@ -327,6 +350,31 @@ void TestMainWindow::calibrationNeedsConsent()
     QVERIFY(page<CAdvanceMenu>()->isVisible());
     QCOMPARE(m_window->currentUtil(), UTILITY_ID_ADVTOOL);
     QVERIFY(!closeShown());
+}
+
+void TestMainWindow::calibrationGivesTheInputBack()
+{
+    const QString library = QStringLiteral("libsettingscreen.so");
+    installFixture("libfixture_recorder.so", library);
+    CBoxAnswer consent("ok");
+    m_window->changeCurrentUtil(UTILITY_ID_SCREEN);
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    QTRY_COMPARE(region(), QRect(0, 0, 800, 480));
+    m_window->triggerHome();
+    QCOMPARE(region(), QRect());
+
+    QFile refuse(QStringLiteral("/tmp/fixture-refuses")); // the library stays loaded, so it is the same one
+    QVERIFY(refuse.open(QIODevice::WriteOnly));
+    CBoxAnswer again("ok");
+    m_window->changeCurrentUtil(UTILITY_ID_SCREEN);
+    CBoxAnswer failed("ok");
+    QTRY_VERIFY(failed.isAnswered());
+    QCOMPARE(failed.title(), QStringLiteral("Load plugin"));
+    QCOMPARE(region(), QRect());
+    QVERIFY(
+        pluginCalls().indexOf(QStringLiteral("refused")) < pluginCalls().lastIndexOf(QStringLiteral("stop")));
+    QVERIFY(refuse.remove());
+    QFile::remove(PLUGIN_DIR + library);
 }
 
 void TestMainWindow::pluginLifeCycle()
@@ -393,10 +441,21 @@ void TestMainWindow::homeDuringTheWaitLoadsNothing()
     QCOMPARE(pluginCalls().count(QStringLiteral("start")), 1);
 }
 
+void TestMainWindow::comingBackDuringTheWaitStartsOnce()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libnetwiz.so"));
+    choose(UTILITY_ID_NET_WIZARD);
+    m_window->triggerHome();
+    choose(UTILITY_ID_NET_WIZARD);
+    // The word of the first request, which was on its way, and then that of the second.
+    for (int word = 0; word < 2; ++word)
+        QVERIFY(QMetaObject::invokeMethod(m_window.get(), "utilReady", Q_ARG(int, UTILITY_ID_NET_WIZARD)));
+    QCOMPARE(pluginCalls().count(QStringLiteral("start")), 1);
+}
+
 void TestMainWindow::browserLocksInputForAWhile()
 {
     installFixture("libfixture_recorder.so", QStringLiteral("libwebbrowser.so"));
-    const auto region = [] { return qApp->property("NonInteractiveRegion").toRect(); };
     m_window->changeCurrentUtil(UTILITY_ID_BROWSER);
     QCOMPARE(region(), QRect(0, 0, 800, 480));
     QTRY_COMPARE_WITH_TIMEOUT(region(), QRect(), 5000);
@@ -449,6 +508,26 @@ void TestMainWindow::relabelAfterLanguageChange()
     QCOMPARE(box->itemText(2, 2), QStringLiteral("Manage"));
     QCOMPARE(box->itemText(1, 2), QStringLiteral("Harbor"));
     QCOMPARE(box->itemCount(0), 4);
+}
+
+void TestMainWindow::captionAfterLanguageChange()
+{
+    choose(UTILITY_ID_ADVTOOL);
+    m_window->translate();
+    QCOMPARE(caption(), QStringLiteral("Home>Tools>Advanced"));
+    // The way back to the settings menu ends with the caption of the home page, and stays so.
+    choose(UTILITY_ID_SETTINGS);
+    choose(UTILITY_ID_BACKLIGHT);
+    m_window->triggerClose();
+    QVERIFY(page<CSystemSettingsMenu>()->isVisible());
+    m_window->translate();
+    QCOMPARE(caption(), QStringLiteral("Home"));
+}
+
+void TestMainWindow::closeRequestIsIgnored()
+{
+    QVERIFY(!m_window->close());
+    QVERIFY(m_window->isVisible());
 }
 
 void TestMainWindow::placement()

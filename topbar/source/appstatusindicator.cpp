@@ -80,6 +80,12 @@ void CAppStatusIndicator::setStatusVisible(StatusType type, bool visible)
     update();
 }
 
+bool CAppStatusIndicator::isStatusVisible(StatusType type) const
+{
+    return (type == StatusClose && !m_pCloseIcon->isHidden())
+        || (type == StatusHome && !m_pHomeIcon->isHidden());
+}
+
 void CAppStatusIndicator::setIconSize(int w, int h)
 {
     m_iconSize = QSize(w, h);

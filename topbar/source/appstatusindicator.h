@@ -21,6 +21,8 @@ public:
 
     /** Shows or hides the close or the home button; any other type only repaints. */
     void setStatusVisible(StatusType type, bool visible);
+    /** Whether that button is shown; false for any other type. */
+    bool isStatusVisible(StatusType type) const;
 
     /** Size of a button in pixels, taken over at the next resize. */
     void setIconSize(int w, int h);

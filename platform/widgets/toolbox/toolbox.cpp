@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int LineHeight = 1; // below a header
@@ -83,6 +85,14 @@ void CToolBox::collapseAll()
 {
     setOpenPage(-1);
     setCurrentItem(-1);
+}
+
+bool CToolBox::hasItem(int id) const
+{
+    return std::any_of(m_pages.begin(), m_pages.end(), [id](const Page& page) {
+        return std::any_of(page.items.begin(), page.items.end(),
+            [id](const CToolBoxButton* item) { return item->id() == id; });
+    });
 }
 
 void CToolBox::setCurrentItem(int id)

@@ -29,6 +29,7 @@ public:
     QString itemText(int page, int item) const;
     int pageCount() const { return m_pages.size(); }
     int itemCount(int page) const;
+    bool hasItem(int id) const;
 
     /** Index of the open page, -1 when all are collapsed. */
     int openPage() const { return m_open; }
