@@ -23,6 +23,7 @@
 #include <sys/resource.h>
 
 #include "boxanswer.h"
+#include "withdialog.h"
 #include "xscreen.h"
 
 namespace {
@@ -62,32 +63,6 @@ QStringList screens()
 {
     return QDir(SCREENS).entryList(QDir::Files | QDir::Hidden);
 }
-
-/** Does something once, with the next dialog that is up and modal. */
-class CWithDialog : public QObject
-{
-public:
-    explicit CWithDialog(std::function<void(CDialog*)> action)
-        : m_action(std::move(action))
-    {
-        m_timer.setInterval(10);
-        connect(&m_timer, &QTimer::timeout, this, [this] {
-            auto* dialog = qobject_cast<CDialog*>(QApplication::activeModalWidget());
-            if (!dialog || !dialog->isVisible())
-                return;
-            m_timer.stop();
-            m_done = true;
-            m_action(dialog);
-        });
-        m_timer.start();
-    }
-    bool isDone() const { return m_done; }
-
-private:
-    std::function<void(CDialog*)> m_action;
-    QTimer m_timer;
-    bool m_done = false;
-};
 
 /** No file of this process grows beyond a few bytes while this lives: what a full disk does. */
 class CFullDisk

@@ -1,0 +1,103 @@
+#include "mainwindow.h"
+#include "sigtransfer.h"
+
+#include <QFile>
+#include <QProcess>
+
+#include "infopage.h"
+#include "withdialog.h"
+#include "xscreen.h"
+
+namespace {
+
+const QString MOUNTED = QStringLiteral("/tmp/var/lib/usbd/stat-mounted");
+
+QString textOf(const CDialog* page, const char* name)
+{
+    const auto* label = page->findChild<CLabel*>(QLatin1String(name));
+    return label && label->isVisibleTo(page) ? label->text() : QString();
+}
+
+/** Leaves a picture of the screen in the directory that the environment names, to be looked at. */
+void keepPicture(const char* name)
+{
+    const QString directory = qEnvironmentVariable("PICTURES");
+    if (!directory.isEmpty())
+        QProcess::execute(QStringLiteral("import"),
+            {QStringLiteral("-window"), QStringLiteral("root"),
+                QStringLiteral("%1/%2-%3.png")
+                    .arg(directory, QLatin1String(QTest::currentDataTag()), QLatin1String(name))});
+}
+
+} // namespace
+
+/** A USB drive from the socket to the page and back: device monitor, window, page, touch, USB daemon. */
+class TestUsbDrive : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup() { turn("unplug"); }
+    void pageFollowsTheDrive_data();
+    void pageFollowsTheDrive();
+
+private:
+    static void turn(const char* state)
+    {
+        QCOMPARE(
+            QProcess::execute(QStringLiteral("simctl"), {QStringLiteral("usb"), QLatin1String(state)}), 0);
+    }
+
+    std::unique_ptr<CMainWindow> m_window;
+    CXScreen m_screen;
+};
+
+void TestUsbDrive::initTestCase()
+{
+    m_window = std::make_unique<CMainWindow>(nullptr);
+    m_window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void TestUsbDrive::pageFollowsTheDrive_data()
+{
+    QTest::addColumn<int>("language");
+    QTest::newRow("en") << int(LANGUAGE_ENGLISH);
+    QTest::newRow("ge") << int(LANGUAGE_GERMAN);
+}
+
+void TestUsbDrive::pageFollowsTheDrive()
+{
+    QFETCH(int, language);
+    const CShellLanguage spoken{LanguageCode(language)};
+    QVERIFY(spoken.isLoaded());
+    m_window->translate();
+    QString without;
+    CWithDialog page([&](CDialog* dialog) {
+        without = textOf(dialog, "usbd");
+        auto* button = dialog->findChild<CPushButton*>(QStringLiteral("usbDrive"));
+        QVERIFY(button && !button->isVisible());
+        keepPicture("storage-page-no-drive");
+
+        turn("mount");
+        QTRY_VERIFY(button->isVisible());
+        QVERIFY(textOf(dialog, "usbd") != without);
+        QVERIFY(textOf(dialog, "usbdAvail").toInt() > 0);
+        keepPicture("storage-page-drive-in-use");
+
+        m_screen.touch(button->mapToGlobal(button->rect().center()));
+        QTRY_VERIFY(!QFile::exists(MOUNTED)); // the daemon's answer to the request
+        QTRY_VERIFY(!button->isVisible());
+        QCOMPARE(textOf(dialog, "usbd"), without);
+        const auto* ok = dialog->findChild<CPushButton*>(QStringLiteral("ok"));
+        m_screen.touch(ok->mapToGlobal(ok->rect().center()));
+        QTRY_VERIFY(!dialog->isVisible());
+    });
+    emit g_pSigTransfer->queryStorageInfo();
+    QVERIFY(page.isDone());
+}
+
+QTEST_MAIN(TestUsbDrive)
+#include "tst_usbdrive.moc"
