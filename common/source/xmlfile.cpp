@@ -5,6 +5,8 @@
 #include <QTextStream>
 #include <QXmlStreamReader>
 
+#include <cstring>
+
 namespace xmlfile {
 
 namespace {
@@ -13,11 +15,14 @@ namespace {
 bool hasTooManyAttributes(const QByteArray& content)
 {
     int count = 0;
+    char before = 0; // the last character that is no white space
     for (const char byte : content) {
         if (byte == '<')
             count = 0;
-        else if (byte == '=' && ++count > MaxAttributes)
+        else if ((byte == '"' || byte == '\'') && before == '=' && ++count > MaxAttributes)
             return true;
+        if (std::strchr(" \t\r\n", byte) == nullptr)
+            before = byte;
     }
     return false;
 }
@@ -32,7 +37,9 @@ bool isAcceptable(const QByteArray& content)
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
         case QXmlStreamReader::DTD:
-            return false;
+            if (!reader.entityDeclarations().isEmpty())
+                return false;
+            break;
         case QXmlStreamReader::StartElement:
             if (++depth > MaxDepth)
                 return false;

@@ -11,15 +11,15 @@ namespace xmlfile {
 
 constexpr int MaxFileSize = 1024 * 1024; ///< bytes; a larger file counts as one that cannot be parsed
 constexpr int MaxDepth = 100; ///< nested elements; likewise
-constexpr int MaxAttributes = 500; ///< of one element, counted as "=" from one "<" to the next; likewise
+constexpr int MaxAttributes
+    = 500; ///< of one element, counted as quoted values from one "<" to the next; likewise
 
 enum class ReadResult { Ok, CannotOpen, CannotParse };
 
 /**
  * Reads a file or built-in resource into `document`, which is left empty on failure. Only regular files can
- * be opened. A file that is not well-formed, exceeds the limits above or has a document type declaration
- * (none of ours has one, and its entities could expand without bound) cannot be parsed; no more than the size
- * limit is read of it.
+ * be opened. A file that is not well-formed, exceeds the limits above or declares entities (none of ours
+ * does, and they could expand without bound) cannot be parsed; no more than the size limit is read of it.
  */
 ReadResult read(const QString& path, QDomDocument& document);
 

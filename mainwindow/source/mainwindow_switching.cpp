@@ -97,6 +97,7 @@ void CMainWindow::utilReady(int id)
         return;
     m_isUtilStarting = false;
 
+    m_pPluginMan->clearError(); // what an earlier utility left
     UtilInterface* plugin = m_pPluginMan->loadPlugin(util);
     if (!plugin) {
         showPluginError(m_pPluginMan->errorString());

@@ -19,6 +19,7 @@ private slots:
     void init() { resetConfFiles(); }
     void unusableFiles_data();
     void unusableFiles();
+    void unusualFiles();
     void failedWrites_data();
     void failedWrites();
     void encodingIsKept_data();
@@ -64,6 +65,18 @@ void tst_ConfFiles::unusableFiles_data()
         "<!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;\"><!ENTITY e \"&d;&d;&d;&d;&d;&d;&d;&d;\"><!ENTITY f "
         "\"&e;&e;&e;&e;&e;&e;&e;&e;\">"
         "<!ENTITY g \"&f;&f;&f;&f;&f;&f;&f;&f;\"><!ENTITY h \"&g;&g;&g;&g;&g;&g;&g;&g;\">]><T>&h;&h;</T>");
+}
+
+void tst_ConfFiles::unusualFiles()
+{
+    // What only looks dangerous is read.
+    for (const QByteArray& content : {QByteArray("<!--") + QByteArray(xmlfile::MaxAttributes * 2, '=')
+                 + QByteArray("--><TAVO><language type='ge'/></TAVO>"),
+             QByteArray("<!DOCTYPE TAVO><TAVO><language type='ge'/></TAVO>")}) {
+        writeFile(Settings, content);
+        QVERIFY(CUICommUtils::checkConfFile(Settings));
+        QCOMPARE(CUICommUtils::getLanguageCode(), LANGUAGE_GERMAN);
+    }
 }
 
 void tst_ConfFiles::unusableFiles()
