@@ -41,7 +41,9 @@ void keepRejected(const QString& path)
 {
     const QString rejected = path + QStringLiteral(".rejected");
     if (QFileInfo(path).size() > 0 && QFile::exists(path)) {
-        QFile::remove(rejected);
+        // A directory that had the file's name may be there from an earlier start.
+        if (!QFile::remove(rejected))
+            QDir(rejected).removeRecursively();
         QFile::rename(path, rejected);
     }
 }

@@ -117,6 +117,11 @@ void TestConfiguration::directoryInPlaceOfAFileIsMovedAside()
     QVERIFY(initConfiguration());
     QCOMPARE(contentOf(SETTINGS), defaultOf(SETTINGS));
     QCOMPARE(contentOf(SETTINGS + QStringLiteral(".rejected/in-the-way")), QByteArray("x"));
+    // What was moved aside then does not stand in the way of the next one.
+    write(SETTINGS, "broken");
+    QVERIFY(initConfiguration());
+    QCOMPARE(contentOf(SETTINGS), defaultOf(SETTINGS));
+    QCOMPARE(contentOf(SETTINGS + QStringLiteral(".rejected")), QByteArray("broken"));
 }
 
 void TestConfiguration::readOnlyDirectoryEndsTheRecovery()

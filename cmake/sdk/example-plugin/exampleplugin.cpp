@@ -20,13 +20,12 @@ bool CExamplePlugin::start(QWidget* parent)
     m_page->setBorderWidth(0, 1, 1, 1);
     m_page->setGeometry(CWidgetStyle::getScreenRegion(CWidgetStyle::RegionWorkingArea));
 
-    const int brightness
-        = CSystemSettings::globalSettings()->getAttribute(CSystemSettings::ACBrightness).toInt();
-    auto* label = new CLabel(tr("The brightness on external power is %1.").arg(brightness), m_page);
-    label->setGeometry(24, 24, 592, 40);
-    auto* button = new CPushButton(tr("Close"), m_page);
-    button->setGeometry(24, 80, 160, 44);
-    connect(button, &CPushButton::clicked, this, &CExamplePlugin::requestToClose);
+    m_label = new CLabel(QString(), m_page);
+    m_label->setGeometry(24, 24, 592, 40);
+    m_close = new CPushButton(QString(), m_page);
+    m_close->setGeometry(24, 80, 160, 44);
+    connect(m_close, &CPushButton::clicked, this, &CExamplePlugin::requestToClose);
+    update();
 
     m_page->show();
     m_page->raise();
@@ -36,8 +35,10 @@ bool CExamplePlugin::start(QWidget* parent)
 
 bool CExamplePlugin::stop()
 {
-    delete m_page;
     bIsStarted = false;
+    if (!m_page)
+        return false;
+    delete m_page; // and with it what is on it
     return true;
 }
 
@@ -55,6 +56,10 @@ void CExamplePlugin::hide()
 
 void CExamplePlugin::update()
 {
-    if (m_page)
-        m_page->translate();
+    if (!m_page)
+        return;
+    const int brightness
+        = CSystemSettings::globalSettings()->getAttribute(CSystemSettings::ACBrightness).toInt();
+    m_label->setText(tr("The brightness on external power is %1.").arg(brightness));
+    m_close->setText(tr("Close"));
 }

@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QPointer>
 
+class CLabel;
+class CPushButton;
 class CWidget;
 
 /** A page with a text and a button that leads back to the home page. */
@@ -36,4 +38,6 @@ signals:
 
 private:
     QPointer<CWidget> m_page; // made by start(), gone after stop(), or earlier when the shell's window goes
+    CLabel* m_label = nullptr; // both on the page
+    CPushButton* m_close = nullptr;
 };

@@ -1,23 +1,29 @@
-# What `cmake --install` puts down: the shell itself (component Shell), and all that an outside developer needs to
-# build a plug-in (component Sdk): headers, the two shared libraries, a CMake package and an example.
+# What `cmake --install` puts down, by component: Shell, the shell with its libraries; Plugins, the sample utilities,
+# where the shell looks for them when the prefix is /usr/local/arvo; Sdk, all that an outside developer needs to build
+# a plug-in: headers, the two shared libraries, a CMake package and an example.
 
 include(CMakePackageConfigHelpers)
 
 set(sdk_include "${CMAKE_INSTALL_INCLUDEDIR}/mainframe")
 set(sdk_package "${CMAKE_INSTALL_LIBDIR}/cmake/mainframe")
 
-set_target_properties(mainframe widgets services common PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+set(plugins settingAbout settingBacklight iptools)
+set_target_properties(mainframe widgets services common ${plugins}
+    PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 foreach(target widgets common)
     target_include_directories(${target} INTERFACE "$<INSTALL_INTERFACE:${sdk_include}>")
 endforeach()
 
-install(TARGETS mainframe services COMPONENT Shell)
+install(TARGETS mainframe services widgets common COMPONENT Shell)
 install(DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/lang" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/fonts" DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT Shell)
+
+install(TARGETS ${plugins} DESTINATION plugins COMPONENT Plugins)
 
 install(TARGETS widgets common plugininterface EXPORT mainframeTargets COMPONENT Sdk)
 install(EXPORT mainframeTargets NAMESPACE mainframe:: DESTINATION "${sdk_package}" COMPONENT Sdk)
 install(DIRECTORY platform/widgets DESTINATION "${sdk_include}" COMPONENT Sdk FILES_MATCHING PATTERN "*.h")
-install(DIRECTORY common/source/ DESTINATION "${sdk_include}" COMPONENT Sdk FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY common/source/ DESTINATION "${sdk_include}" COMPONENT Sdk
+    FILES_MATCHING PATTERN "*.h" PATTERN "xmlfile.h" EXCLUDE)
 install(FILES pluginmanager/source/utilinterface.h DESTINATION "${sdk_include}" COMPONENT Sdk)
 install(DIRECTORY cmake/sdk/example-plugin DESTINATION "${CMAKE_INSTALL_DATADIR}/mainframe" COMPONENT Sdk)
 
