@@ -24,6 +24,7 @@ class CPluginManager;
 class CPowerMonitor;
 class CSettingMoreMenu;
 class CStartUtilWindow;
+class CStorageMeter;
 class CStorageMonitor;
 class CSwitchAppWindow;
 class CSystemSettingsMenu;
@@ -191,6 +192,7 @@ private:
     void setWindowHidden(VisibleReason reason);
     void setWindowShown(VisibleReason reason);
     void setBarsVisible(bool visible);
+    void setDialogsOnScreen(bool visible);
     void blockAppAreaUpdate();
     void recoverAppAreaUpdate();
     void grabFakeDesktop();
@@ -220,8 +222,7 @@ private:
     template <typename Page> Page* makeInfoPage(int windowID);
     void execPowerPage();
     void execStoragePage();
-    /** The last storage record with the capacities, measured now. */
-    StorageStatus measuredStorage() const;
+    void showMeasuredStorage(const StorageStatus& status);
     void restoreLastUtilState();
 
     // Focus
@@ -266,6 +267,8 @@ private:
 
     QTranslator* m_pTrans = nullptr;
     std::unique_ptr<CMenuStack> m_pMenuStack;
+    QVector<QPointer<QWidget>>
+        m_dialogsAside; // open ones that a test application in front took off the screen
     QPointer<QWidget> m_pPrevFocusWidget; // carries the focus marker
     QElapsedTimer m_keyEventTime; // since the last key press seen
     int m_arrowKeyStepLen = 50; // pixels of one search step
@@ -284,6 +287,7 @@ private:
 
     CPowerMonitor* m_pPowerMonitor = nullptr;
     CStorageMonitor* m_pStorageMonitor = nullptr;
+    CStorageMeter* m_pStorageMeter = nullptr;
 
     serv::CSysFailureServ FailureServ;
     CDeviceMonitor* m_pDevMonitor = nullptr;

@@ -5,7 +5,7 @@
 #include "commutils.h"
 #include "devicemonitor.h"
 #include "powermonitor.h"
-#include "storagecapacity.h"
+#include "storagemeter.h"
 #include "storagemonitor.h"
 #include "systemsettings.h"
 #include "widgets/messagebox/messagebox.h"
@@ -20,6 +20,7 @@
 
 namespace {
 
+constexpr int STORAGE_WAIT = 200; // ms; the page then opens with the figures that are there
 constexpr const char FAILURE_INDICATOR[] = "/tmp/.sysfail_indicator";
 
 /** What belongs to one power source: its settings, and its number at the device monitor. */
@@ -167,20 +168,21 @@ void CMainWindow::execStoragePage()
 {
     if (!m_pStorageMonitor) {
         m_pStorageMonitor = makeInfoPage<CStorageMonitor>(POPUP_WND_ID_INQUIRE_STAT_USB_DISK);
+        m_pStorageMeter = new CStorageMeter(this);
+        connect(m_pStorageMeter, &CStorageMeter::measured, this, &CMainWindow::showMeasuredStorage);
         connect(m_pStorageMonitor, &CStorageMonitor::installUSBDriveSig, this, &CMainWindow::installUSBDrive);
         connect(m_pStorageMonitor, &CStorageMonitor::removeUSBDriveSig, this, &CMainWindow::removeUSBDrive);
     }
     if (m_pStorageMonitor->isVisible())
         return;
     moveToWorkingAreaCenter(m_pStorageMonitor);
-    m_pStorageMonitor->exec(measuredStorage());
+    m_pStorageMonitor->exec(m_pStorageMeter->measureWithin(m_storeStat, STORAGE_WAIT));
 }
 
-StorageStatus CMainWindow::measuredStorage() const
+void CMainWindow::showMeasuredStorage(const StorageStatus& status)
 {
-    StorageStatus status = m_storeStat;
-    measureStorage(status);
-    return status;
+    if (m_pStorageMonitor && m_pStorageMonitor->isVisible())
+        m_pStorageMonitor->updateStorageStatus(status);
 }
 
 void CMainWindow::dlgPopon()
@@ -237,7 +239,7 @@ void CMainWindow::updateStorageStatus(const StorageStatus& status)
 {
     m_storeStat = status;
     if (m_pStorageMonitor && m_pStorageMonitor->isVisible())
-        m_pStorageMonitor->updateStorageStatus(measuredStorage());
+        showMeasuredStorage(m_pStorageMeter->measureWithin(status, 0)); // the new figures follow
 }
 
 void CMainWindow::updateWIFIStatus(const WIFIStatus& status)

@@ -4,11 +4,14 @@
 
 #include "fakedesktop.h"
 #include "topbar.h"
+#include "widgets/dialog/dialog.h"
 #include "widgets/toolbox/toolbox.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 #include <QThread>
+
+#include <utility>
 
 namespace {
 
@@ -28,8 +31,14 @@ void CMainWindow::setWindowVisible(bool visible)
         recoverAppAreaUpdate();
         setWindowShown(TestAppBackground);
         showCurrentUtilPage();
+        // The mask kept from the screen what was painted meanwhile, and a page that paints its whole area is
+        // not painted with the window.
+        for (QWidget* child : findChildren<QWidget*>())
+            child->update();
         repaint();
+        setDialogsOnScreen(true);
     } else {
+        setDialogsOnScreen(false);
         hideCurrentUtilPage();
         setWindowHidden(TestAppForeground);
         blockAppAreaUpdate();
@@ -42,6 +51,25 @@ void CMainWindow::setBarsVisible(bool visible)
 {
     m_pTopBar->setVisible(visible);
     m_pToolBox->setVisible(visible);
+}
+
+void CMainWindow::setDialogsOnScreen(bool visible)
+{
+    if (visible) {
+        for (const QPointer<QWidget>& dialog : std::exchange(m_dialogsAside, {})) {
+            if (dialog)
+                dialog->clearMask();
+        }
+        return;
+    }
+    // Hiding a dialog would answer it, and it goes on passing F4 to the window: it only has no pixel any
+    // more.
+    for (CDialog* dialog : findChildren<CDialog*>()) {
+        if (!dialog->isVisible() || m_dialogsAside.contains(dialog))
+            continue;
+        m_dialogsAside.append(dialog);
+        dialog->setMask(QRegion(-1, -1, 1, 1));
+    }
 }
 
 void CMainWindow::setWindowHidden(VisibleReason reason)

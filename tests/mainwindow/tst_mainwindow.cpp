@@ -11,6 +11,7 @@
 #include "systemsettingsmenu.h"
 #include "topbar.h"
 #include "widgets/entrywidget/entrywidget.h"
+#include "widgets/keypad/keypaddialog.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/statusicon/statusicon.h"
 #include "widgets/toolbox/toolbox.h"
@@ -87,6 +88,8 @@ private slots:
     void browserLocksInputForAWhile();
 
     void testApplicationInFront();
+    void dialogStepsAsideForATestApplication();
+    void pageStartedBehindATestApplicationIsPainted();
     void switchOverlay();
     void relabelAfterLanguageChange();
     void captionAfterLanguageChange();
@@ -487,6 +490,36 @@ void TestMainWindow::testApplicationInFront()
     QVERIFY(QRegion(m_window->rect()).subtracted(m_window->mask()).isEmpty());
     QVERIFY(page<CSwitchAppWindow>()->isHidden()); // nothing is being loaded or released
     QTRY_COMPARE(CXScreen().pixel({560, 2}), QColor(181, 199, 239));
+}
+
+void TestMainWindow::dialogStepsAsideForATestApplication()
+{
+    CKeyPadDialog pad(
+        QStringLiteral("Name"), QStringLiteral("half a"), CKeyPadFactory::KeyPadText, m_window.get());
+    pad.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&pad));
+    const QPoint place = pad.geometry().topLeft() + QPoint(30, 30);
+    const CXScreen screen;
+    const QColor shown = screen.pixel(place);
+    m_window->setWindowVisible(false);
+    QTRY_COMPARE(screen.pixel(place), QColor(Qt::black)); // the root window
+    QVERIFY(pad.isVisible()); // it is not answered
+    m_window->setWindowVisible(true);
+    QTRY_COMPARE(screen.pixel(place), shown);
+    auto* cancel = pad.findChild<CPushButton*>(QStringLiteral("cancel"));
+    QVERIFY(cancel);
+    screen.touch(cancel->mapToGlobal(cancel->rect().center()));
+    QTRY_VERIFY(!pad.isVisible());
+}
+
+void TestMainWindow::pageStartedBehindATestApplicationIsPainted()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libnetwiz.so"));
+    m_window->setWindowVisible(false);
+    m_window->changeCurrentUtil(UTILITY_ID_NET_WIZARD);
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    m_window->setWindowVisible(true);
+    QTRY_COMPARE(CXScreen().pixel({400, 300}), QColor(0x5c, 0x78, 0x5f));
 }
 
 void TestMainWindow::switchOverlay()

@@ -1,5 +1,6 @@
 #include "infopage.h"
 #include "storagecapacity.h"
+#include "storagemeter.h"
 #include "storagemonitor.h"
 #include "storageview.h"
 #include "widgets/label/label.h"
@@ -8,6 +9,7 @@
 
 #include <QApplication>
 #include <QProcess>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -69,6 +71,8 @@ private slots:
     void measuredAsTheSystemDoes();
     void measuredRecord_data();
     void measuredRecord();
+    void slowDriveHoldsNobodyUp();
+    void meterMayGoFirst();
     void page();
     void languages_data();
     void languages();
@@ -173,6 +177,66 @@ void tst_Storage::measuredRecord_data()
     QTest::newRow("plugged only") << false << "/tmp"_s << false;
     QTest::newRow("mounted") << true << "/tmp"_s << true;
     QTest::newRow("gone in the meantime") << true << "/nowhere"_s << false;
+}
+
+/** A drive that answers when it is let. Shared with the measuring thread. */
+struct SlowDrive
+{
+    QSemaphore asked;
+    QSemaphore answers;
+};
+
+static CStorageMeter::Measure measureOf(const std::shared_ptr<SlowDrive>& drive)
+{
+    return [drive](StorageStatus& status) {
+        drive->asked.release();
+        drive->answers.acquire();
+        status.diskUsed = status.bIsMounted ? 2 : 1;
+        status.bIsUSBDPlugged = status.bIsMounted;
+        status.USBDUsed = status.bIsMounted ? 7 : 0;
+    };
+}
+
+void tst_Storage::slowDriveHoldsNobodyUp()
+{
+    const auto drive = std::make_shared<SlowDrive>();
+    CStorageMeter meter(nullptr, measureOf(drive));
+    QSignalSpy measured(&meter, &CStorageMeter::measured);
+    const auto lastMeasured = [&measured] { return measured.last().at(0).value<StorageStatus>(); };
+    StorageStatus mounted;
+    mounted.bIsPlugged = mounted.bIsMounted = true;
+
+    drive->answers.release(); // quick enough
+    QCOMPARE(meter.measureWithin(mounted, 60000).USBDUsed, 7);
+    QTRY_COMPARE(measured.count(), 1);
+
+    // Slow: the figures of last time, and of the records that come meanwhile only the last is measured.
+    drive->asked.acquire();
+    QCOMPARE(meter.measureWithin(mounted, 0).USBDUsed, 7);
+    drive->asked.acquire();
+    meter.measure(mounted);
+    const StorageStatus pulled
+        = meter.measureWithin(StorageStatus(), 60000); // does not wait for another's answer
+    QVERIFY(!pulled.bIsUSBDPlugged);
+    QCOMPARE(pulled.USBDUsed, 0);
+    QCOMPARE(pulled.diskUsed, 2);
+    drive->answers.release(2);
+    QTRY_COMPARE(measured.count(), 3);
+    QCOMPARE(lastMeasured().diskUsed, 1);
+    drive->asked.acquire();
+    QVERIFY(!drive->asked.tryAcquire());
+}
+
+void tst_Storage::meterMayGoFirst()
+{
+    const auto drive = std::make_shared<SlowDrive>();
+    {
+        CStorageMeter meter(nullptr, measureOf(drive));
+        meter.measure(StorageStatus());
+        drive->asked.acquire();
+    }
+    drive->answers.release();
+    QTRY_COMPARE(drive.use_count(), 1L); // the thread has ended, and let go
 }
 
 void tst_Storage::measuredRecord()

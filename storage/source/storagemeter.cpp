@@ -1,0 +1,91 @@
+#include "storagemeter.h"
+
+#include "storagecapacity.h"
+
+#include <QDeadlineTimer>
+#include <QMutex>
+#include <QWaitCondition>
+
+#include <thread>
+#include <utility>
+
+struct CStorageMeter::Shared
+{
+    QMutex mutex;
+    QWaitCondition done;
+    CStorageMeter* meter; // null once it has gone
+    Measure measure;
+    std::unique_ptr<StorageStatus> result; // not taken yet
+};
+
+namespace {
+
+/** The state of the one, with the figures of the other. */
+StorageStatus withFigures(StorageStatus record, const StorageStatus& figures)
+{
+    record.diskUsed = figures.diskUsed;
+    record.diskAvail = figures.diskAvail;
+    record.bIsUSBDPlugged = record.bIsMounted && figures.bIsUSBDPlugged;
+    record.USBDUsed = record.bIsUSBDPlugged ? figures.USBDUsed : 0;
+    record.USBDAvail = record.bIsUSBDPlugged ? figures.USBDAvail : 0;
+    return record;
+}
+
+} // namespace
+
+CStorageMeter::CStorageMeter(QObject* parent, Measure measure)
+    : QObject(parent)
+    , m_shared(std::make_shared<Shared>())
+{
+    m_shared->meter = this;
+    m_shared->measure = measure ? std::move(measure) : [](StorageStatus& record) { measureStorage(record); };
+}
+
+CStorageMeter::~CStorageMeter()
+{
+    const QMutexLocker locker(&m_shared->mutex);
+    m_shared->meter = nullptr;
+}
+
+void CStorageMeter::measure(const StorageStatus& record)
+{
+    if (m_isBusy) {
+        m_waiting = std::make_unique<StorageStatus>(record);
+        return;
+    }
+    m_isBusy = true;
+    std::thread([shared = m_shared, result = std::make_unique<StorageStatus>(record)]() mutable {
+        shared->measure(*result);
+        const QMutexLocker locker(&shared->mutex);
+        shared->result = std::move(result);
+        shared->done.wakeAll();
+        if (shared->meter)
+            QMetaObject::invokeMethod(shared->meter, &CStorageMeter::take, Qt::QueuedConnection);
+    }).detach();
+}
+
+StorageStatus CStorageMeter::measureWithin(const StorageStatus& record, int ms)
+{
+    const bool isOwn = !m_isBusy; // else the answer is that of an earlier record
+    measure(record);
+    const QDeadlineTimer deadline(ms);
+    QMutexLocker locker(&m_shared->mutex);
+    while (isOwn && !m_shared->result) {
+        if (!m_shared->done.wait(&m_shared->mutex, deadline))
+            break;
+    }
+    return withFigures(record, isOwn && m_shared->result ? *m_shared->result : m_last);
+}
+
+void CStorageMeter::take()
+{
+    {
+        const QMutexLocker locker(&m_shared->mutex);
+        m_last = *m_shared->result;
+        m_shared->result.reset();
+    }
+    m_isBusy = false;
+    if (const auto next = std::move(m_waiting))
+        measure(*next);
+    emit measured(m_last);
+}
