@@ -1,5 +1,6 @@
 #include "suites.h"
 
+#include "widgets/dialog/dialog.h"
 #include "widgets/pushbutton/pushbutton.h"
 #include "widgets/widget/widget.h"
 
@@ -115,6 +116,28 @@ private slots:
         setRegion(QRect());
         postTap(m_left);
         QCoreApplication::sendPostedEvents();
+        QCOMPARE(clicked.count(), 1);
+    }
+
+    void buttonOutOfReachLetsGo()
+    {
+        QSignalSpy clicked(m_left, &QAbstractButton::clicked);
+        QTest::mousePress(m_left, Qt::LeftButton);
+        QVERIFY(m_left->isDown());
+        m_left->hide();
+        QTest::mouseRelease(m_left, Qt::LeftButton);
+        m_left->show();
+        QVERIFY(!m_left->isDown());
+
+        QTest::mousePress(m_left, Qt::LeftButton);
+        CDialog dialog(m_window.get());
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QVERIFY(!m_left->isDown());
+        QTest::mouseRelease(m_left, Qt::LeftButton);
+        dialog.hide();
+        QCOMPARE(clicked.count(), 0);
+        QTest::mouseClick(m_left, Qt::LeftButton);
         QCOMPARE(clicked.count(), 1);
     }
 

@@ -1,5 +1,6 @@
 #include "widgets/touchregion/touchregion.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPointer>
@@ -36,12 +37,31 @@ public:
         case QEvent::TouchUpdate:
         case QEvent::TouchEnd:
             return filterTouch(static_cast<QTouchEvent*>(event));
+        case QEvent::Hide:
+            letGo(qobject_cast<QAbstractButton*>(receiver));
+            return false;
+        case QEvent::WindowBlocked:
+            if (receiver->isWindowType()) {
+                const QWidget* window = QWidget::find(static_cast<QWindow*>(receiver)->winId());
+                for (auto* button : window ? window->findChildren<QAbstractButton*>() : Buttons())
+                    letGo(button);
+            }
+            return false;
         default:
             return false;
         }
     }
 
 private:
+    using Buttons = QList<QAbstractButton*>;
+
+    /** A button that is out of reach now: the touch that holds it ends elsewhere, and means nothing. */
+    static void letGo(QAbstractButton* button)
+    {
+        if (button)
+            button->setDown(false);
+    }
+
     static QRect region() { return qApp->property("NonInteractiveRegion").toRect(); }
 
     static bool drop(QEvent* event, bool dropped)
