@@ -62,7 +62,11 @@ CPluginManager::CPluginManager(QObject* parent)
     , m_innerModule({UTILITY_ID_BEGIN, UTILITY_ID_ADVTOOL, UTILITY_ID_SETTINGS, UTILITY_ID_HELP,
           UTILITY_ID_GLOBAL, UTILITY_ID_REMOTE_ACCESS, UTILITY_ID_SETTING_MORE, UTILITY_ID_USB_BROWSER,
           UTILITY_ID_DISK_MANAGE, UTILITY_ID_END})
-{ }
+{
+    // All symbols at once: a library built against something else fails to load, and not in the middle of a
+    // call.
+    m_pPluginLoader->setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
+}
 
 QString CPluginManager::getPluginDirPath()
 {

@@ -198,6 +198,7 @@ void TestPluginManager::unusableFile_data()
     QTest::newRow("another architecture") << foreign;
     QTest::newRow("another word size") << narrow;
     QTest::newRow("no plug-in") << fixture("libfixture_noplugin.so");
+    QTest::newRow("calls what is not there") << fixture("libfixture_unresolved.so");
 }
 
 void TestPluginManager::unusableFile()
