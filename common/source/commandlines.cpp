@@ -172,6 +172,7 @@ bool readCommandLines(
         const ReadState state = readSome(command.fd(), buffer, size);
         if (state == ReadState::End) {
             wanted(splitter.finish());
+            command.terminate(); // mostly it has ended; one that only closed its output would stay for ever
             return true;
         }
         if ((state == ReadState::Data && !wanted(splitter.feed(buffer, size))) || deadline.hasExpired())

@@ -137,14 +137,15 @@ bool CDeviceMonitor::inquireWIFIStatus(WIFIStatus* status)
     status->bIsConnected = false;
     status->signalStrength = 0;
     bool isAdapterMissing = false;
+    int lines = 0;
     const QDeadlineTimer deadline(WifiTimeoutMs);
     const bool started = readCommandLines(
         {QStringLiteral("iwconfig"), QStringLiteral("wlan0")}, WifiTimeoutMs, [&](const QString& line) {
             isAdapterMissing = !applyIwconfigLine(*status, line);
-            return !isAdapterMissing;
+            return !isAdapterMissing && ++lines < WifiMaxLines;
         });
     // Half an answer is none: the adapter may be there and linked.
-    return started && (isAdapterMissing || !deadline.hasExpired());
+    return started && (isAdapterMissing || (lines < WifiMaxLines && !deadline.hasExpired()));
 }
 
 bool CDeviceMonitor::inquireOPMStatus(OPMStatus*)

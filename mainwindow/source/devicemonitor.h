@@ -35,6 +35,8 @@ public:
      * Longest time that "iwconfig" gets. One that hangs is ended then, within another 200 ms, and that cycle
      * says nothing about the wireless adapter.
      */
+    static constexpr int WifiMaxLines
+        = 10000; ///< of its answer, which has a dozen; a command that never stops fails
     static constexpr int WifiTimeoutMs = 2000;
 
     /** @param sleep replaces the wait between cycles; without one it is a wait that stop() ends at once */

@@ -88,7 +88,7 @@ void CMainWindow::mousePressEvent(QMouseEvent* event)
 void CMainWindow::tapFocusWidget()
 {
     QWidget* widget = m_pPrevFocusWidget;
-    if (!widget || isTouchDropped(widget))
+    if (!widget || !widget->isVisible() || isTouchDropped(widget))
         return;
     const QPointF local = widget->rect().center();
     const QPointF inWindow = widget->mapTo(widget->window(), local.toPoint());

@@ -6,8 +6,10 @@
 
 #include <QProcess>
 
+#include <csignal>
 #include <memory>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -373,6 +375,12 @@ void tst_DeviceMonitor::usbDaemonAway()
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Can not ask the USB daemon: .*req-mount"_s));
     CUsbdMonitor().onMountUSBDisk(true);
     QVERIFY(!QFile::exists(elsewhere));
+    // A pipe that nobody reads does not hold the thread.
+    const QByteArray request = CUsbdMonitor::UmountRequest;
+    QCOMPARE(::mkfifo(request.constData(), 0600), 0);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Can not ask the USB daemon: .*req-umount"_s));
+    CUsbdMonitor().onMountUSBDisk(false);
+    QVERIFY(QFile::remove(QString::fromLatin1(request)));
 }
 
 void tst_DeviceMonitor::iwconfigOutput_data()
@@ -398,6 +406,9 @@ void tst_DeviceMonitor::iwconfigOutput_data()
                                             << true << false << 33;
     QTest::newRow("hangs after the answer") << sh + "echo 'wlan0 No such device'; exec sleep 1000\n"
                                             << false << false << 0;
+    QTest::newRow("closes its output and stays")
+        << sh + "echo $$ >/tmp/stays; echo 'Access Point: x'; exec 1>&- 2>&-; exec sleep 1000\n"
+        << true << true << 0;
     QTest::newRow("asks for a password")
         << sh + "read word && echo \"Link Quality=$word/70\"; echo 'Access Point: x'\n"
         << true << true << 0;
@@ -414,6 +425,14 @@ void tst_DeviceMonitor::iwconfigOutput()
     QTEST(record.wifi.bIsPlugged, "plugged");
     QTEST(record.wifi.bIsConnected, "connected");
     QTEST(record.wifi.signalStrength, "strength");
+    // What stays would be one process more in each cycle.
+    QFile stays("/tmp/stays"_s);
+    if (stays.open(QIODevice::ReadOnly)) {
+        const pid_t process = stays.readAll().trimmed().toInt();
+        QVERIFY(process > 0);
+        QTRY_VERIFY(::kill(process, 0) != 0);
+        QVERIFY(stays.remove());
+    }
 }
 
 void tst_DeviceMonitor::wifiUnknown_data()
