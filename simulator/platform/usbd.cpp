@@ -39,16 +39,22 @@ void takeUpRequests()
 
 int main()
 {
-    ::mkdir(Directory, 0755);
     const int watch = ::inotify_init1(IN_CLOEXEC);
-    if (watch < 0 || ::inotify_add_watch(watch, Directory, IN_CREATE | IN_MOVED_TO) < 0) {
-        std::perror("usbd: cannot watch the marker directory");
-        return 1;
-    }
     alignas(inotify_event) char events[4096];
-    do
+    for (;;) {
+        // Each time: a directory that somebody removed takes its watch along. Watching it twice is watching
+        // it once.
+        ::mkdir(Directory, 0755);
+        if (watch < 0
+            || ::inotify_add_watch(watch, Directory, IN_CREATE | IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF)
+                < 0) {
+            std::perror("usbd: cannot watch the marker directory");
+            return 1;
+        }
         takeUpRequests(); // what was left before the watch began, too
-    while (::read(watch, events, sizeof events) > 0 || errno == EINTR);
-    std::perror("usbd: the watch ended");
-    return 1;
+        if (::read(watch, events, sizeof events) <= 0 && errno != EINTR) {
+            std::perror("usbd: the watch ended");
+            return 1;
+        }
+    }
 }

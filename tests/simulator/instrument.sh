@@ -139,6 +139,7 @@ done <<'TABLE'
 off|No such device
 idle|Mode:Managed  Access Point: Not-Associated
 link 70|Link Quality=70/100
+link 08|Link Quality=8/100
 link 0|Access Point: [0-9A-F:]\{17\}
 TABLE
 while IFS='|' read -r command answer; do
@@ -155,7 +156,7 @@ initctl start nonsense|initctl: Unknown job: nonsense
 TABLE
 # The USB daemon takes up what the shell's device monitor asks for, when there is a drive; what was written to the
 # drive is on it the next time.
-expect 'USB requests' 'mounted plugged empty mounted kept refused unplugged' "$(instrument --profile full -- sh -c '
+expect 'USB requests' 'mounted plugged empty mounted kept plugged refused unplugged' "$(instrument --profile full -- sh -c '
     cd /tmp/var/lib/usbd
     until_within_5s() { tries=100; until eval "$1"; do tries=$((tries - 1)); [ $tries -gt 0 ] || return 1; sleep 0.05; done; }
     usb() { simctl status | sed -n "s/^usb *//p"; }
@@ -167,6 +168,8 @@ expect 'USB requests' 'mounted plugged empty mounted kept refused unplugged' "$(
     [ -e /home/usbd/written ] || echo empty
     ask mount mounted
     [ -e /home/usbd/written ] && [ -e /home/usbd/readme.txt ] && echo kept
+    rm -r ../usbd; simctl usb mount; cd /tmp/var/lib/usbd # another directory, which the daemon finds
+    ask umount plugged
     simctl usb unplug
     : >req-mount; until_within_5s "grep -q \"no drive\" /tmp/var/log/usbd.log" && echo refused
     usb' | tr '\n' ' ' | sed 's/ $//')"
