@@ -8,6 +8,8 @@
 #include "widgets/statusicon/statusicon.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
+#include <algorithm>
+
 namespace {
 
 // Pixels
@@ -113,7 +115,7 @@ void CPowerMonitor::setPowerCapacity(const PowerStatus& status)
     if (view.bIsLevelShown) {
         setPowerRemainTime(status.remainTime);
         m_powerLevel = view.level;
-        m_pPowerLvlBar->setValue(m_powerLevel);
+        m_pPowerLvlBar->setValue(std::max(0, m_powerLevel));
         m_pBattCapLabel->setText(QStringLiteral("%1%").arg(m_powerLevel));
         m_pBattStatLabel->setText(tr(view.state));
     }

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -10,10 +11,11 @@ constexpr int Full = 100; // per cent
 
 int levelOf(const PowerStatus& status)
 {
-    if (status.fullCap <= 0)
+    if (status.fullCap == 0)
         return 0;
     const qint64 level = qint64(status.remainCap) * Full / status.fullCap;
-    return static_cast<int>(std::clamp<qint64>(level, 0, Full));
+    // A broken record may be far below nothing.
+    return static_cast<int>(std::clamp<qint64>(level, std::numeric_limits<int>::min(), Full));
 }
 
 bool isIdleAndFull(const PowerStatus& status)

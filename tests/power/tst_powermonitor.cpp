@@ -8,6 +8,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <limits>
+
 namespace {
 
 PowerStatus powerRecord(bool isBattery, int remain, int full, int remainTime, int toFullTime)
@@ -77,7 +79,7 @@ void TestPowerMonitor::rules_data()
         row(name, status, false, false, level, "Fully Charged", CResourceMan::BAT_FULLY_CHARGED);
     };
     idle("full and idle", Full, 100);
-    idle("nothing known", powerRecord(false, -1, -1, 0, 0), 0);
+    idle("nothing known", powerRecord(false, -1, -1, 0, 0), 100);
     idle("both capacities 0", powerRecord(false, 0, 0, 0, 0), 0);
     idle("full, negative times", powerRecord(false, 80, 80, -1, -1), 100);
     shown("full, time to full left", powerRecord(false, 100, 100, 0, 1), 100, "Fully Charged");
@@ -91,7 +93,10 @@ void TestPowerMonitor::rules_data()
     shown("on battery, above full", powerRecord(true, 101, 100, 0, 0), 100, "Discharging...");
     shown("on battery without capacity", powerRecord(true, 0, 0, 0, 0), 0, "Discharging...");
     shown("capacities of a fine unit", powerRecord(true, 1000000000, 2000000000, 0, 0), 50, "Discharging...");
-    shown("negative capacity", powerRecord(true, -1, 100, 0, 0), 0, "Discharging...");
+    shown("negative capacity", powerRecord(true, -5, 100, 0, 0), -5, "Discharging...");
+    shown("capacities not known, on battery", powerRecord(true, -1, -1, 0, 0), 100, "Discharging...");
+    shown("far below nothing", powerRecord(true, std::numeric_limits<int>::min(), 1, 0, 0),
+        std::numeric_limits<int>::min(), "Discharging...");
 }
 
 void TestPowerMonitor::rules()
