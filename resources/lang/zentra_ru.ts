@@ -223,7 +223,7 @@ Meter</source>
     </message>
     <message>
         <source>Tools</source>
-        <translation>Утилиты</translation>
+        <translation>Средства</translation>
     </message>
     <message>
         <source>Utilities</source>

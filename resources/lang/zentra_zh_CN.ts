@@ -14,7 +14,7 @@
     </message>
     <message>
         <source>Shell version</source>
-        <translation>系统版本</translation>
+        <translation>外壳版本</translation>
     </message>
     <message>
         <source>Qt version</source>
@@ -226,7 +226,7 @@ Meter</source>
     </message>
     <message>
         <source>Utilities</source>
-        <translation>实用程序</translation>
+        <translation>系统</translation>
     </message>
     <message>
         <source>Files</source>

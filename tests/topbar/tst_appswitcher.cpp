@@ -283,6 +283,8 @@ void TestAppSwitcher::pressChoosesTab()
         QCOMPARE(chosen.at(0).at(0).toInt(), pressed);
         QTest::mousePress(tab, Qt::MouseButton(button)); // again: told again
         QCOMPARE(chosen.count(), 2);
+        QTest::mouseDClick(tab, Qt::MouseButton(button)); // the second of two in quick succession
+        QCOMPARE(chosen.count(), 3);
         QVERIFY(tab->isChecked());
     }
 }

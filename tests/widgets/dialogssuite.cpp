@@ -228,6 +228,12 @@ private slots:
             QTest::keyClick(&dialog, step.first);
             QCOMPARE(grid.indexOf(dialog.markedButton()), step.second);
         }
+        // Hidden with the marker, it comes back without.
+        grid[0]->hide();
+        QTest::keyClick(&dialog, Qt::Key_Down);
+        QCOMPARE(grid.indexOf(dialog.markedButton()), 2);
+        grid[0]->show();
+        QVERIFY(!grid[0]->hasArrowKeyFocus());
     }
 
     void functionKeysReachTheWindowBehind()

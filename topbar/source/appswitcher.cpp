@@ -58,8 +58,10 @@ void CAppSwitcher::choose(CAppTab* tab, CAppTab* other)
 
 bool CAppSwitcher::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonPress && isEnabled()
-        && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+    // The second of two quick presses comes as a double click.
+    const bool isPress
+        = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (isPress && isEnabled() && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
         if (watched == m_pApp1Tab)
             choose(m_pApp1Tab, m_pApp2Tab);
         else if (watched == m_pApp2Tab)

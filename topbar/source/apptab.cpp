@@ -140,7 +140,8 @@ void CAppTab::paintEvent(QPaintEvent* event)
         painter.drawText(LABEL_BOX, Qt::AlignCenter, number);
     if (!m_text.isEmpty())
         paintCaption(painter, isRemote ? QRect(0, 0, numberWidth, LABEL_BOX.height()) : QRect(), plate);
-    paintFocusMarker(painter);
+    if (m_status != CResourceMan::AppFocus) // whose picture is a marker itself
+        paintFocusMarker(painter);
 }
 
 void CAppTab::paintCaption(QPainter& painter, const QRect& besides, const QRect& covered) const

@@ -197,8 +197,13 @@ void CDialog::moveMarker(int arrowKey)
     if (buttons.isEmpty())
         return;
     CPushButton* from = markedButton();
+    // A button that was hidden with its marker must not come back with a second one.
+    const auto mark = [this](const CPushButton* wanted) {
+        for (CPushButton* button : findChildren<CPushButton*>())
+            button->setArrowKeyFocus(button == wanted);
+    };
     if (!from) {
-        buttons.first()->setArrowKeyFocus(true);
+        mark(buttons.first());
         return;
     }
     const auto center
@@ -213,10 +218,8 @@ void CDialog::moveMarker(int arrowKey)
         best = button;
         bestCost = cost;
     }
-    if (!best)
-        return;
-    from->setArrowKeyFocus(false);
-    best->setArrowKeyFocus(true);
+    if (best)
+        mark(best);
 }
 
 QList<CPushButton*> CDialog::touchableButtons() const

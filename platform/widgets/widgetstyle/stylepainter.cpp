@@ -5,6 +5,7 @@
 #include <QDebug>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QSet>
 #include <QTextLayout>
 #include <qdrawutil.h>
 
@@ -86,12 +87,15 @@ void CStylePainter::paintButton(QPainter& painter, const QRect& rect, int status
     const CWidgetStyle::ButtonLook look = CWidgetStyle::getButtonLook(status);
     const int radius = CWidgetStyle::getMetric(QStringLiteral("buttonRadius"), 8);
     if (!look.picture.isEmpty()) {
-        const QPixmap picture(look.picture);
+        static QSet<QString> unreadable; // each is tried and told once
+        const QPixmap picture = unreadable.contains(look.picture) ? QPixmap() : QPixmap(look.picture);
         if (!picture.isNull()) {
             qDrawBorderPixmap(&painter, rect, QMargins(radius, radius, radius, radius), picture);
             return;
         }
-        qWarning().noquote() << "Theme picture" << look.picture << "cannot be read";
+        if (!unreadable.contains(look.picture))
+            qWarning().noquote() << "Theme picture" << look.picture << "cannot be read";
+        unreadable.insert(look.picture);
     }
     paintPlate(painter, rect, radius, look.fill, look.frame, look.frameWidth);
 }
