@@ -160,6 +160,7 @@ void CMainWindow::execPowerPage()
         m_pPowerMonitor = makeInfoPage<CPowerMonitor>(POPUP_WND_ID_INQUIRE_STAT_POWER);
     if (m_pPowerMonitor->isVisible())
         return;
+    m_pPowerMonitor->updatePowerStatus(m_powerStat); // the page is as high as what it has to say
     moveToWorkingAreaCenter(m_pPowerMonitor);
     m_pPowerMonitor->exec(m_powerStat);
 }

@@ -3,10 +3,26 @@
 #include <QFile>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
 constexpr int buttonSide = 60;
+
+/** Every element with all that may stand in it. */
+constexpr struct
+{
+    const char* element;
+    const char* attributes;
+} KNOWN[] = {
+    {"pictures", ""},
+    {"color", "name value"},
+    {"ground", "name fill frame frame-width dashed inset radius"},
+    {"look", "x ground"},
+    {"picture", "name width height glyph-size"},
+    {"cell", "rect ground glyphs glyph-size shift"},
+    {"button", "y glyphs"},
+};
 
 QString text(const QXmlStreamAttributes& attributes, const char* name)
 {
@@ -36,20 +52,29 @@ void CPictureTable::readElement(const QXmlStreamReader& xml)
 {
     const QXmlStreamAttributes attributes = xml.attributes();
     const QStringRef element = xml.name();
+    const auto* const known = std::find_if(std::begin(KNOWN), std::end(KNOWN),
+        [&element](const auto& row) { return element == QLatin1String(row.element); });
+    if (known == std::end(KNOWN)) {
+        fault(QStringLiteral("unknown element %1").arg(element.toString()));
+        return;
+    }
+    const QStringList names = QString::fromLatin1(known->attributes).split(QLatin1Char(' '));
+    for (const QXmlStreamAttribute& attribute : attributes) {
+        if (!names.contains(attribute.name()))
+            fault(QStringLiteral("unknown attribute %1").arg(attribute.name().toString()));
+    }
     if (element == QLatin1String("color"))
         m_colors.insert(text(attributes, "name"), QColor(text(attributes, "value")));
     else if (element == QLatin1String("ground"))
         readGround(attributes);
     else if (element == QLatin1String("look"))
-        m_looks << Look{attributes.value(QLatin1String("x")).toInt(), text(attributes, "ground")};
+        m_looks << Look{qRound(number(attributes, "x", 0)), text(attributes, "ground")};
     else if (element == QLatin1String("picture"))
         readPicture(attributes);
     else if (element == QLatin1String("cell"))
         readCell(attributes);
     else if (element == QLatin1String("button"))
         readButton(attributes);
-    else if (element != QLatin1String("pictures"))
-        fault(QStringLiteral("unknown element %1").arg(element.toString()));
 }
 
 void CPictureTable::readGround(const QXmlStreamAttributes& attributes)
@@ -59,7 +84,7 @@ void CPictureTable::readGround(const QXmlStreamAttributes& attributes)
         ground.fill = color(text(attributes, "fill"));
     if (attributes.hasAttribute(QLatin1String("frame"))) {
         ground.frame = color(text(attributes, "frame"));
-        ground.frameWidth = attributes.value(QLatin1String("frame-width")).toDouble();
+        ground.frameWidth = number(attributes, "frame-width", 0);
     }
     if (attributes.hasAttribute(QLatin1String("dashed")))
         ground.line = Qt::DashLine;
@@ -67,7 +92,7 @@ void CPictureTable::readGround(const QXmlStreamAttributes& attributes)
         const QVector<int> n = numbers(text(attributes, "inset"), 4);
         ground.inset = QMargins(n[0], n[1], n[2], n[3]);
     }
-    ground.radius = attributes.value(QLatin1String("radius")).toDouble();
+    ground.radius = number(attributes, "radius", 0);
     m_grounds.insert(text(attributes, "name"), ground);
 }
 
@@ -75,15 +100,15 @@ void CPictureTable::readPicture(const QXmlStreamAttributes& attributes)
 {
     Picture picture;
     picture.name = text(attributes, "name");
-    picture.size = QSize(
-        attributes.value(QLatin1String("width")).toInt(), attributes.value(QLatin1String("height")).toInt());
+    if (picture.name.isEmpty() || picture.name.contains(QLatin1Char('/')))
+        fault(QStringLiteral("\"%1\" is no file name").arg(picture.name));
+    picture.size = QSize(qRound(number(attributes, "width", 0)), qRound(number(attributes, "height", 0)));
     if (picture.size.isEmpty())
         fault(QStringLiteral("%1 has no size").arg(picture.name));
     const auto same = [&picture](const Picture& other) { return other.name == picture.name; };
     if (std::any_of(m_pictures.cbegin(), m_pictures.cend(), same))
         fault(QStringLiteral("%1 is there twice").arg(picture.name));
-    const QStringRef size = attributes.value(QLatin1String("glyph-size"));
-    m_glyphSize = size.isEmpty() ? Cell().glyphSize : size.toDouble();
+    m_glyphSize = number(attributes, "glyph-size", Cell().glyphSize);
     m_pictures << picture;
 }
 
@@ -94,8 +119,7 @@ void CPictureTable::readCell(const QXmlStreamAttributes& attributes)
     cell.rect = QRect(n[0], n[1], n[2], n[3]);
     cell.ground = text(attributes, "ground");
     cell.layers = layers(text(attributes, "glyphs"));
-    const QStringRef size = attributes.value(QLatin1String("glyph-size"));
-    cell.glyphSize = size.isEmpty() ? m_glyphSize : size.toDouble();
+    cell.glyphSize = number(attributes, "glyph-size", m_glyphSize);
     if (attributes.hasAttribute(QLatin1String("shift"))) {
         const QVector<int> shift = numbers(text(attributes, "shift"), 2);
         cell.shift = QPointF(shift[0], shift[1]);
@@ -105,7 +129,9 @@ void CPictureTable::readCell(const QXmlStreamAttributes& attributes)
 
 void CPictureTable::readButton(const QXmlStreamAttributes& attributes)
 {
-    const int y = attributes.value(QLatin1String("y")).toInt();
+    const int y = qRound(number(attributes, "y", 0));
+    if (m_looks.isEmpty())
+        fault(QStringLiteral("a button before the first look"));
     for (const Look& look : qAsConst(m_looks)) {
         Cell cell;
         cell.rect = QRect(look.x, y, buttonSide, buttonSide);
@@ -148,6 +174,17 @@ QColor CPictureTable::color(const QString& name)
     QColor result = m_colors.value(name);
     if (!result.isValid())
         fault(QStringLiteral("unknown color %1").arg(name));
+    return result;
+}
+
+qreal CPictureTable::number(const QXmlStreamAttributes& attributes, const char* name, qreal absent)
+{
+    if (!attributes.hasAttribute(QLatin1String(name)))
+        return absent;
+    bool ok = false;
+    const qreal result = text(attributes, name).toDouble(&ok);
+    if (!ok)
+        fault(QStringLiteral("%1 \"%2\" is no number").arg(QLatin1String(name), text(attributes, name)));
     return result;
 }
 

@@ -83,6 +83,7 @@ private:
     void addCell(const Cell& cell);
     QVector<Layer> layers(const QString& text);
     QColor color(const QString& name);
+    qreal number(const QXmlStreamAttributes& attributes, const char* name, qreal absent);
     QVector<int> numbers(const QString& text, int count);
     void fault(const QString& text);
 

@@ -82,6 +82,15 @@ private slots:
                               << QStringLiteral("line 6: a.png has no size");
         QTest::newRow("element") << QByteArray("<image/></pictures>")
                                  << QStringLiteral("line 6: unknown element image");
+        QTest::newRow("attribute") << picture
+                + "<cell rect=\"0,0,9,9\" glyph=\"house\"/></picture></pictures>"
+                                   << QStringLiteral("line 7: unknown attribute glyph");
+        QTest::newRow("number") << picture
+                + "<cell rect=\"0,0,9,9\" glyph-size=\"big\"/></picture></pictures>"
+                                << QStringLiteral("line 7: glyph-size \"big\" is no number");
+        QTest::newRow("file name") << QByteArray(
+            "<picture name=\"../a.png\" width=\"9\" height=\"9\"/></pictures>")
+                                   << QStringLiteral("line 6: \"../a.png\" is no file name");
     }
 
     void faultsAreNamed()
