@@ -98,6 +98,7 @@ void TestShell::endsInOrder()
 
     CShellProcess shell;
     QVERIFY2(shell.waitForHome(), qPrintable(shell.log()));
+    QTRY_VERIFY(read(PLUGIN_LOG).contains("bkgRun")); // an earlier signal ends the shell before
     shell.sendSignal(sig);
     QVERIFY(shell.waitForLog(QStringLiteral("###Signal %1 Terminate is comming!").arg(sig)));
     shell.sendSignal(sig); // nothing more for a second one
