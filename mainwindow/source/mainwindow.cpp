@@ -225,7 +225,13 @@ int CMainWindow::execBox(CMessageBox& box)
 {
     box.adjustSize();
     moveToWorkingAreaCenter(&box);
-    return box.exec();
+    const bool isOverTestApp = m_winVisibleReason == TestAppForeground;
+    if (m_nonInteractiveType == ExcludeBottomBar)
+        setNonInteractiveRegion(RegionNone, QRect());
+    const int answer = box.exec();
+    if (isOverTestApp)
+        procDelayUnlock();
+    return answer;
 }
 
 void CMainWindow::closeEvent(QCloseEvent* event)

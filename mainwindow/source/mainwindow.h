@@ -192,7 +192,7 @@ private:
     void setWindowHidden(VisibleReason reason);
     void setWindowShown(VisibleReason reason);
     void setBarsVisible(bool visible);
-    void setDialogsOnScreen(bool visible);
+    void setDialogsAside(bool aside);
     void blockAppAreaUpdate();
     void recoverAppAreaUpdate();
     void grabFakeDesktop();
@@ -267,8 +267,6 @@ private:
 
     QTranslator* m_pTrans = nullptr;
     std::unique_ptr<CMenuStack> m_pMenuStack;
-    QVector<QPointer<QWidget>>
-        m_dialogsAside; // open ones that a test application in front took off the screen
     QPointer<QWidget> m_pPrevFocusWidget; // carries the focus marker
     QElapsedTimer m_keyEventTime; // since the last key press seen
     int m_arrowKeyStepLen = 50; // pixels of one search step

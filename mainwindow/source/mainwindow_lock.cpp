@@ -6,13 +6,12 @@
 #include "systemsettings.h"
 #include "widgets/messagebox/messagebox.h"
 
+#include <QApplication>
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QSaveFile>
 #include <QScopeGuard>
 #include <QScreen>
@@ -89,8 +88,11 @@ void CMainWindow::setScreenLocked(bool locked)
     } else if (!locked && mark.exists()) {
         mark.remove();
     }
-    setNonInteractiveRegion(locked                    ? FullScreen
-            : m_winVisibleReason == TestAppForeground ? ExcludeBottomBar
-                                                      : RegionNone,
+    // A dialog over the test application needs the touches; with its end the application has them again.
+    const auto* dialog = qobject_cast<CDialog*>(QApplication::activeModalWidget());
+    const bool isDialogUp = dialog && !dialog->isAside();
+    setNonInteractiveRegion(locked                                   ? FullScreen
+            : m_winVisibleReason == TestAppForeground && !isDialogUp ? ExcludeBottomBar
+                                                                     : RegionNone,
         QRect());
 }

@@ -47,8 +47,10 @@ void CMainWindow::keyPressEvent(QKeyEvent* event)
     const int key = event->key();
     qDebug().noquote() << QStringLiteral("Key:%1").arg(key);
 
-    // Restarted by ignored presses too: a held key stays one press for as long as it is held.
-    const bool isRepeat = m_keyEventTime.isValid() && m_keyEventTime.elapsed() < KEY_REPEAT_LIMIT;
+    // Restarted by ignored presses too: a held key stays one press for as long as it is held. Its first
+    // repetition comes later than the limit.
+    const bool isRepeat
+        = event->isAutoRepeat() || (m_keyEventTime.isValid() && m_keyEventTime.elapsed() < KEY_REPEAT_LIMIT);
     m_keyEventTime.start();
     if (isRepeat || (m_winVisibleReason == TestAppForeground && key != Qt::Key_F4) || key < Qt::Key_Escape
         || key > Qt::Key_F4)

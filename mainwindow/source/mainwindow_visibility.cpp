@@ -11,8 +11,6 @@
 #include <QScreen>
 #include <QThread>
 
-#include <utility>
-
 namespace {
 
 // Long enough for the X server and the test application to settle; the event loop stands still meanwhile.
@@ -36,9 +34,11 @@ void CMainWindow::setWindowVisible(bool visible)
         for (QWidget* child : findChildren<QWidget*>())
             child->update();
         repaint();
-        setDialogsOnScreen(true);
+        setDialogsAside(false);
+        if (m_nonInteractiveType == ExcludeBottomBar)
+            procDelayUnlock(); // that was for the test application
     } else {
-        setDialogsOnScreen(false);
+        setDialogsAside(true);
         hideCurrentUtilPage();
         setWindowHidden(TestAppForeground);
         blockAppAreaUpdate();
@@ -53,22 +53,11 @@ void CMainWindow::setBarsVisible(bool visible)
     m_pToolBox->setVisible(visible);
 }
 
-void CMainWindow::setDialogsOnScreen(bool visible)
+void CMainWindow::setDialogsAside(bool aside)
 {
-    if (visible) {
-        for (const QPointer<QWidget>& dialog : std::exchange(m_dialogsAside, {})) {
-            if (dialog)
-                dialog->clearMask();
-        }
-        return;
-    }
-    // Hiding a dialog would answer it, and it goes on passing F4 to the window: it only has no pixel any
-    // more.
     for (CDialog* dialog : findChildren<CDialog*>()) {
-        if (!dialog->isVisible() || m_dialogsAside.contains(dialog))
-            continue;
-        m_dialogsAside.append(dialog);
-        dialog->setMask(QRegion(-1, -1, 1, 1));
+        if (dialog->isVisible())
+            dialog->setAside(aside);
     }
 }
 

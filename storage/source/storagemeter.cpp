@@ -74,7 +74,16 @@ StorageStatus CStorageMeter::measureWithin(const StorageStatus& record, int ms)
         if (!m_shared->done.wait(&m_shared->mutex, deadline))
             break;
     }
-    return withFigures(record, isOwn && m_shared->result ? *m_shared->result : m_last);
+    if (isOwn && m_shared->result)
+        return withFigures(record, *m_shared->result);
+    locker.unlock();
+    if (!m_hasFigures) { // the internal storage never lets anybody wait
+        m_last = record;
+        m_last.bIsMounted = false;
+        m_shared->measure(m_last);
+        m_hasFigures = true;
+    }
+    return withFigures(record, m_last);
 }
 
 void CStorageMeter::take()
@@ -84,6 +93,7 @@ void CStorageMeter::take()
         m_last = *m_shared->result;
         m_shared->result.reset();
     }
+    m_hasFigures = true;
     m_isBusy = false;
     if (const auto next = std::move(m_waiting))
         measure(*next);

@@ -22,7 +22,7 @@ class CStorageMeter : public QObject
 public:
     using Measure = std::function<void(StorageStatus&)>;
 
-    /** @param measure completes a record, on another thread; left out: measureStorage() */
+    /** @param measure completes a record, on any thread, also on two at once; left out: measureStorage() */
     explicit CStorageMeter(QObject* parent = nullptr, Measure measure = {});
     ~CStorageMeter() override;
 
@@ -31,7 +31,7 @@ public:
 
     /**
      * The record measured, if that takes no longer than `ms`. Else the record with the figures that were
-     * measured last, and measured() when it is done.
+     * measured last (at first those of the internal storage alone), and measured() when it is done.
      */
     StorageStatus measureWithin(const StorageStatus& record, int ms);
 
@@ -44,7 +44,8 @@ private:
     void take();
 
     std::shared_ptr<Shared> m_shared;
-    StorageStatus m_last; // the figures of
+    StorageStatus m_last; // measured last
+    bool m_hasFigures = false; // in it
     std::unique_ptr<StorageStatus> m_waiting; // its turn comes when the present measuring is done
     bool m_isBusy = false;
 };

@@ -114,6 +114,9 @@ private slots:
     void limitBelowTestApplicationDialog();
     void limitWaitsForTheTestApplication();
     void limitIsToldOnce();
+    void dialogOverATestApplicationCanBeAnswered();
+    void heldKeyIsOnePress();
+    void hiddenControlIsNotTapped();
 
     void failureDismissedComesBack();
     void pagesFollowWhileOpen();
@@ -373,6 +376,57 @@ void TestLock::limitIsToldOnce()
     press(Qt::Key_F4);
     QVERIFY(box.isDone());
     QCOMPARE(above, 0);
+}
+
+void TestLock::dialogOverATestApplicationCanBeAnswered()
+{
+    m_window->setWindowVisible(false);
+    press(Qt::Key_F4);
+    press(Qt::Key_F4);
+    QCOMPARE(region(), QRect(0, 0, 800, 460));
+    write(INDICATOR);
+    CWithDialog box([this](CDialog* dialog) {
+        QCOMPARE(region(), QRect());
+        press(Qt::Key_F4, dialog);
+        QCOMPARE(region(), WHOLE_SCREEN);
+        press(Qt::Key_F4, dialog);
+        const auto* ok = dialog->findChild<CPushButton*>(QStringLiteral("ok"));
+        m_screen.touch(middleOf(ok));
+        QTRY_VERIFY(!dialog->isVisible());
+    });
+    QVERIFY(QMetaObject::invokeMethod(m_window.get(), "selftestPopup"));
+    QVERIFY(box.isDone());
+    QVERIFY(!QFile::exists(INDICATOR));
+    QCOMPARE(region(), QRect(0, 0, 800, 460)); // the test application's again
+    m_window->setWindowVisible(true);
+    QCOMPARE(region(), QRect());
+}
+
+void TestLock::heldKeyIsOnePress()
+{
+    press(Qt::Key_F4);
+    QTRY_VERIFY(m_sinceKey.elapsed() >= KEY_PAUSE); // the first repetition comes late
+    QKeyEvent repetition(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(m_window.get(), &repetition);
+    m_sinceKey.start();
+    QCOMPARE(region(), WHOLE_SCREEN);
+    press(Qt::Key_F4);
+}
+
+void TestLock::hiddenControlIsNotTapped()
+{
+    auto* box = m_window->findChild<CToolBox*>();
+    box->setOpenPage(0);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    QSignalSpy chosen(box, &CToolBox::currentItemChanged);
+    box->setOpenPage(-1);
+    press(Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QCOMPARE(chosen.size(), 0);
+    box->setOpenPage(0);
+    press(Qt::Key_Return);
+    QTRY_COMPARE(chosen.size(), 1); // it was the marked one
 }
 
 void TestLock::failureDismissedComesBack()

@@ -23,6 +23,7 @@
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <atomic>
 #include <thread>
@@ -503,7 +504,10 @@ void TestMainWindow::dialogStepsAsideForATestApplication()
     const QColor shown = screen.pixel(place);
     m_window->setWindowVisible(false);
     QTRY_COMPARE(screen.pixel(place), QColor(Qt::black)); // the root window
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Return, Qt::Key_Return})
+        QTest::keyClick(pad.windowHandle(), key);
     QVERIFY(pad.isVisible()); // it is not answered
+    QVERIFY(!pad.markedButton());
     m_window->setWindowVisible(true);
     QTRY_COMPARE(screen.pixel(place), shown);
     auto* cancel = pad.findChild<CPushButton*>(QStringLiteral("cancel"));

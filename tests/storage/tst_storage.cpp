@@ -72,6 +72,7 @@ private slots:
     void measuredRecord_data();
     void measuredRecord();
     void slowDriveHoldsNobodyUp();
+    void slowDriveAtFirst();
     void meterMayGoFirst();
     void page();
     void languages_data();
@@ -225,6 +226,23 @@ void tst_Storage::slowDriveHoldsNobodyUp()
     QCOMPARE(lastMeasured().diskUsed, 1);
     drive->asked.acquire();
     QVERIFY(!drive->asked.tryAcquire());
+}
+
+void tst_Storage::slowDriveAtFirst()
+{
+    const auto drive = std::make_shared<SlowDrive>();
+    const CStorageMeter::Measure slow = measureOf(drive);
+    CStorageMeter meter(nullptr, [slow](StorageStatus& status) {
+        status.diskUsed = 5;
+        if (status.bIsMounted)
+            slow(status);
+    });
+    StorageStatus mounted;
+    mounted.bIsPlugged = mounted.bIsMounted = true;
+    const StorageStatus first = meter.measureWithin(mounted, 1);
+    QCOMPARE(first.diskUsed, 5); // of the storage that answers
+    QVERIFY(!first.bIsUSBDPlugged);
+    drive->answers.release();
 }
 
 void tst_Storage::meterMayGoFirst()

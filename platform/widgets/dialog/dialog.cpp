@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QWindow>
 
 #include <algorithm>
 #include <cstdlib>
@@ -158,6 +159,7 @@ void CDialog::hideEvent(QHideEvent* event)
     if (event->spontaneous())
         return;
     delete m_pScrim;
+    setAside(false);
     if (CPushButton* marked = markedButton())
         marked->setArrowKeyFocus(false);
     emit popOff();
@@ -178,17 +180,42 @@ void CDialog::keyPressEvent(QKeyEvent* event)
         if (!event->isAutoRepeat())
             pressMarked();
         break;
-    case Qt::Key_F1:
-    case Qt::Key_F2:
-    case Qt::Key_F3:
-    case Qt::Key_F4:
-        if (parentWidget())
-            QCoreApplication::sendEvent(parentWidget()->window(), event);
-        break;
     default:
-        break; // QDialog's own meanings (Escape closes) do not hold here
+        passFunctionKeyOn(event); // QDialog's own meanings (Escape closes) do not hold here
+        break;
     }
     event->accept();
+}
+
+void CDialog::passFunctionKeyOn(QKeyEvent* event)
+{
+    if (event->key() >= Qt::Key_F1 && event->key() <= Qt::Key_F4 && parentWidget())
+        QCoreApplication::sendEvent(parentWidget()->window(), event);
+}
+
+void CDialog::setAside(bool aside)
+{
+    if (m_isAside == aside || !windowHandle())
+        return;
+    m_isAside = aside;
+    if (aside) {
+        // Hiding it would answer it, and it has to go on hearing the keys for the window that it blocks.
+        setMask(QRegion(-1, -1, 1, 1));
+        windowHandle()->installEventFilter(this);
+    } else {
+        windowHandle()->removeEventFilter(this);
+        clearMask();
+    }
+}
+
+bool CDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!m_isAside || watched != windowHandle())
+        return QDialog::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress)
+        passFunctionKeyOn(static_cast<QKeyEvent*>(event));
+    return event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease
+        || event->type() == QEvent::ShortcutOverride;
 }
 
 void CDialog::moveMarker(int arrowKey)

@@ -46,6 +46,15 @@ public:
     /** The button that carries the arrow-key focus marker, null if none does. */
     CPushButton* markedButton() const;
 
+    /**
+     * Takes the open dialog off the screen without answering it, and back. Meanwhile it takes no touch and no
+     * key; the function keys go on to the window behind.
+     */
+    void setAside(bool aside);
+    bool isAside() const { return m_isAside; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 public slots:
     /** Re-applies every visible text; the base hands the call on to all children that know it. */
     virtual void translate();
@@ -72,9 +81,11 @@ protected:
 private:
     QList<CPushButton*> touchableButtons() const;
     void pressMarked();
+    void passFunctionKeyOn(QKeyEvent* event);
     void dimWindowBehind();
 
     CFrameStyle m_frame;
     int m_windowID = -1;
+    bool m_isAside = false;
     QPointer<QWidget> m_pScrim; // child of the window behind; gone with hideEvent
 };
