@@ -255,6 +255,7 @@ private:
     bool bIsClientInBackWithPopup = false; // an information page waits while a test application is in front
     bool bIsShouldFakeDesktopShown = false;
     InquireSysStatCode m_pInqSysStatCode = INQUIRE_SYS_STAT_NONE; // the page that waits
+    bool m_isInquiryServed = false; // it is open, over the fake desktop
     bool m_isPainted = false;
     int m_saveScreenCount = 0; // screenshots asked for since the start
     bool m_isLimitReported = false; // the box about their limit is up, or waits for the screen

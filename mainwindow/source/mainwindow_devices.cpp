@@ -136,6 +136,7 @@ void CMainWindow::showBTInfo()
 
 void CMainWindow::inquireSystemState()
 {
+    m_isInquiryServed = true;
     if (m_pInqSysStatCode == INQUIRE_SYS_STAT_POWER) {
         setFakeDesktopVisible(true);
         execPowerPage();
@@ -143,6 +144,7 @@ void CMainWindow::inquireSystemState()
         setFakeDesktopVisible(true);
         execStoragePage();
     }
+    m_isInquiryServed = false;
 }
 
 template <typename Page> Page* CMainWindow::makeInfoPage(int windowID)
@@ -201,7 +203,8 @@ void CMainWindow::dlgPopoff()
     const auto* dialog = qobject_cast<CDialog*>(sender());
     const int id = dialog ? dialog->getWindowID() : -1;
     qDebug().noquote() << QStringLiteral("Dialog Close, ID:%1").arg(id);
-    if (m_pInqSysStatCode == INQUIRE_SYS_STAT_NONE || id < 0
+    // A page that was open before the test application came takes nothing away with it.
+    if (!m_isInquiryServed || m_pInqSysStatCode == INQUIRE_SYS_STAT_NONE || id < 0
         || (id != POPUP_WND_ID_INQUIRE_STAT_POWER && id != POPUP_WND_ID_INQUIRE_STAT_USB_DISK))
         return;
     bIsClientInBackWithPopup = false;

@@ -20,6 +20,7 @@
 #include <QTest>
 
 #include "boxanswer.h"
+#include "withdialog.h"
 
 namespace {
 
@@ -103,6 +104,7 @@ private slots:
     void failureBox();
     void informationPages();
     void storagePageOverTestApplication();
+    void pageOpenBeforeTheTestApplication();
     void changedBacklightTimeIsTakenOver();
 
 private:
@@ -451,6 +453,20 @@ void TestKeys::storagePageOverTestApplication()
     QVERIFY(!m_window->isNeedInteractive()); // the test application has the screen again
     QCOMPARE(region(), QRect(0, 0, 800, 460));
     m_window->setWindowVisible(true);
+    QCOMPARE(region(), QRect());
+}
+
+void TestKeys::pageOpenBeforeTheTestApplication()
+{
+    CWithDialog page([this](CDialog* dialog) {
+        m_window->setWindowVisible(false);
+        emit g_pSigTransfer->queryStorageInfo(); // noted, and not served before the shell comes back
+        m_window->setWindowVisible(true);
+        dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+    });
+    emit g_pSigTransfer->queryPowerInfo();
+    QVERIFY(page.isDone());
+    QVERIFY(m_window->isNeedInteractive()); // closing it did not send the shell away
     QCOMPARE(region(), QRect());
 }
 

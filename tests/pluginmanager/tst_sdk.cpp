@@ -43,9 +43,9 @@ void TestSdk::installedExampleBuildsAndRuns()
 {
     const QString prefix = QStringLiteral(SDK_PREFIX);
     QByteArray failure = failureOf(QStringLiteral(CMAKE_PROGRAM),
-        {QStringLiteral("-S"), prefix + QStringLiteral("/share/mainframe/example-plugin"),
-            QStringLiteral("-B"), BUILD, QStringLiteral("-DCMAKE_PREFIX_PATH=") + prefix,
-            QStringLiteral("-DCMAKE_CXX_FLAGS=" CXX_FLAGS)});
+        {QStringLiteral("-G"), QStringLiteral("Ninja"), QStringLiteral("-S"),
+            prefix + QStringLiteral("/share/mainframe/example-plugin"), QStringLiteral("-B"), BUILD,
+            QStringLiteral("-DCMAKE_PREFIX_PATH=") + prefix, QStringLiteral("-DCMAKE_CXX_FLAGS=" CXX_FLAGS)});
     QVERIFY2(failure.isEmpty(), failure.constData());
     failure = failureOf(QStringLiteral(CMAKE_PROGRAM), {QStringLiteral("--build"), BUILD});
     QVERIFY2(failure.isEmpty(), failure.constData());

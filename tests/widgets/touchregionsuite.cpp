@@ -125,9 +125,11 @@ private slots:
         QTest::mousePress(m_left, Qt::LeftButton);
         QVERIFY(m_left->isDown());
         m_left->hide();
-        QTest::mouseRelease(m_left, Qt::LeftButton);
         m_left->show();
+        QMouseEvent move(QEvent::MouseMove, QPoint(5, 5), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_left, &move);
         QVERIFY(!m_left->isDown());
+        QTest::mouseRelease(m_left, Qt::LeftButton);
 
         QTest::mousePress(m_left, Qt::LeftButton);
         CDialog dialog(m_window.get());

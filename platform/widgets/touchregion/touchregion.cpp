@@ -56,10 +56,11 @@ private:
     using Buttons = QList<QAbstractButton*>;
 
     /** A button that is out of reach now: the touch that holds it ends elsewhere, and means nothing. */
-    static void letGo(QAbstractButton* button)
+    void letGo(QAbstractButton* button)
     {
-        if (button)
-            button->setDown(false);
+        // Not only setDown(): a finger that moves would press it again.
+        if (button && button->isDown())
+            cancelPress(button, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
     }
 
     static QRect region() { return qApp->property("NonInteractiveRegion").toRect(); }
@@ -107,17 +108,18 @@ private:
         if (event->type() == QEvent::MouseButtonRelease) {
             if (!receiver->isWidgetType())
                 return false; // Qt's own books need it; the widget's copy is dealt with next
-            cancelPress(static_cast<QWidget*>(receiver), event);
+            cancelPress(
+                static_cast<QWidget*>(receiver), event->button(), event->buttons(), event->modifiers());
         }
         return drop(event, receiver->isWidgetType() || event->buttons() == Qt::NoButton);
     }
 
     /** A touch that began outside ends inside: the control must let go without counting it as a touch. */
-    void cancelPress(QWidget* widget, const QMouseEvent* event)
+    void cancelPress(
+        QWidget* widget, Qt::MouseButton button, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
     {
         const QPointF away(-32000, -32000);
-        QMouseEvent release(
-            QEvent::MouseButtonRelease, away, away, event->button(), event->buttons(), event->modifiers());
+        QMouseEvent release(QEvent::MouseButtonRelease, away, away, button, buttons, modifiers);
         m_cancelling = true;
         QCoreApplication::sendEvent(widget, &release);
         m_cancelling = false;
