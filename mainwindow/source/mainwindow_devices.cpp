@@ -20,7 +20,9 @@
 
 namespace {
 
-constexpr int STORAGE_WAIT = 200; // ms; the page then opens with the figures that are there
+// The storage page shows the figures that are there when new ones take longer than this, in ms.
+constexpr int STORAGE_WAIT = 200; // when it opens
+constexpr int STORAGE_REFRESH_WAIT = 20; // with each record
 constexpr const char FAILURE_INDICATOR[] = "/tmp/.sysfail_indicator";
 
 /** What belongs to one power source: its settings, and its number at the device monitor. */
@@ -243,7 +245,7 @@ void CMainWindow::updateStorageStatus(const StorageStatus& status)
 {
     m_storeStat = status;
     if (m_pStorageMonitor && m_pStorageMonitor->isVisible())
-        showMeasuredStorage(m_pStorageMeter->measureWithin(status, 0)); // the new figures follow
+        showMeasuredStorage(m_pStorageMeter->measureWithin(status, STORAGE_REFRESH_WAIT));
 }
 
 void CMainWindow::updateWIFIStatus(const WIFIStatus& status)

@@ -143,6 +143,10 @@ void CMainWindow::showPluginError(const QString& text)
 {
     CMessageBox box(tr("Load plugin"), text, CMessageBox::Ok, this);
     box.setTitleBackgroundColor(CWidgetStyle::ColorAlert);
+    // A test application may have come while the utility was starting: the box waits for the shell to come
+    // back.
+    if (m_winVisibleReason == TestAppForeground)
+        connect(&box, &CDialog::popOn, &box, [&box] { box.setAside(true); });
     execBox(box);
 }
 

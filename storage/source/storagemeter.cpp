@@ -20,14 +20,15 @@ struct CStorageMeter::Shared
 
 namespace {
 
-/** The state of the one, with the figures of the other. */
+/** The state of the one, with the figures of the other. A drive that has not been measured yet is there, with
+ * none. */
 StorageStatus withFigures(StorageStatus record, const StorageStatus& figures)
 {
     record.diskUsed = figures.diskUsed;
     record.diskAvail = figures.diskAvail;
-    record.bIsUSBDPlugged = record.bIsMounted && figures.bIsUSBDPlugged;
-    record.USBDUsed = record.bIsUSBDPlugged ? figures.USBDUsed : 0;
-    record.USBDAvail = record.bIsUSBDPlugged ? figures.USBDAvail : 0;
+    record.bIsUSBDPlugged = record.bIsMounted && (figures.bIsUSBDPlugged || !figures.bIsMounted);
+    record.USBDUsed = record.bIsMounted ? figures.USBDUsed : 0;
+    record.USBDAvail = record.bIsMounted ? figures.USBDAvail : 0;
     return record;
 }
 
@@ -49,6 +50,7 @@ CStorageMeter::~CStorageMeter()
 
 void CStorageMeter::measure(const StorageStatus& record)
 {
+    m_newest = record;
     if (m_isBusy) {
         m_waiting = std::make_unique<StorageStatus>(record);
         return;
@@ -97,5 +99,5 @@ void CStorageMeter::take()
     m_isBusy = false;
     if (const auto next = std::move(m_waiting))
         measure(*next);
-    emit measured(m_last);
+    emit measured(withFigures(m_newest, m_last));
 }

@@ -36,6 +36,7 @@ public:
     StorageStatus measureWithin(const StorageStatus& record, int ms);
 
 signals:
+    /** The newest record, with the figures just measured. */
     void measured(const StorageStatus& record);
 
 private:
@@ -44,6 +45,7 @@ private:
     void take();
 
     std::shared_ptr<Shared> m_shared;
+    StorageStatus m_newest; // record asked about
     StorageStatus m_last; // measured last
     bool m_hasFigures = false; // in it
     std::unique_ptr<StorageStatus> m_waiting; // its turn comes when the present measuring is done

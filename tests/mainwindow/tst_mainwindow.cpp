@@ -29,6 +29,7 @@
 #include <thread>
 
 #include "boxanswer.h"
+#include "withdialog.h"
 #include "xscreen.h"
 
 namespace {
@@ -90,6 +91,7 @@ private slots:
 
     void testApplicationInFront();
     void dialogStepsAsideForATestApplication();
+    void errorBehindATestApplicationWaits();
     void pageStartedBehindATestApplicationIsPainted();
     void switchOverlay();
     void relabelAfterLanguageChange();
@@ -514,6 +516,21 @@ void TestMainWindow::dialogStepsAsideForATestApplication()
     QVERIFY(cancel);
     screen.touch(cancel->mapToGlobal(cancel->rect().center()));
     QTRY_VERIFY(!pad.isVisible());
+}
+
+void TestMainWindow::errorBehindATestApplicationWaits()
+{
+    choose(UTILITY_ID_NET_WIZARD); // there is none
+    m_window->setWindowVisible(false);
+    bool isAside = false;
+    CWithDialog box([&](CDialog* dialog) {
+        isAside = dialog->isAside();
+        m_window->setWindowVisible(true);
+        QVERIFY(!dialog->isAside());
+        dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+    });
+    QTRY_VERIFY(box.isDone());
+    QVERIFY(isAside);
 }
 
 void TestMainWindow::pageStartedBehindATestApplicationIsPainted()

@@ -223,6 +223,8 @@ void tst_Storage::slowDriveHoldsNobodyUp()
     QCOMPARE(pulled.diskUsed, 2);
     drive->answers.release(2);
     QTRY_COMPARE(measured.count(), 3);
+    for (int i = 1; i < 3; ++i) // also the answer about the drive that was there: it has gone since
+        QVERIFY(!measured.at(i).at(0).value<StorageStatus>().bIsUSBDPlugged);
     QCOMPARE(lastMeasured().diskUsed, 1);
     drive->asked.acquire();
     QVERIFY(!drive->asked.tryAcquire());
@@ -241,7 +243,8 @@ void tst_Storage::slowDriveAtFirst()
     mounted.bIsPlugged = mounted.bIsMounted = true;
     const StorageStatus first = meter.measureWithin(mounted, 1);
     QCOMPARE(first.diskUsed, 5); // of the storage that answers
-    QVERIFY(!first.bIsUSBDPlugged);
+    QVERIFY(first.bIsUSBDPlugged); // there, to be released, although nothing is known of it
+    QCOMPARE(first.USBDUsed, 0);
     drive->answers.release();
 }
 
