@@ -55,6 +55,8 @@ CMainWindow::CMainWindow(QWidget* parent)
 
 CMainWindow::~CMainWindow()
 {
+    if (bIsUILocked)
+        setScreenLocked(false); // nobody is there to lift it
     // The monitor's thread ends first. The bars and menus that listen to the relay go before the relay.
     delete m_pDevMonitor;
     qDeleteAll(findChildren<CWidget*>(QString(), Qt::FindDirectChildrenOnly));
@@ -226,11 +228,16 @@ int CMainWindow::execBox(CMessageBox& box)
     box.adjustSize();
     moveToWorkingAreaCenter(&box);
     const bool isOverTestApp = m_winVisibleReason == TestAppForeground;
-    if (m_nonInteractiveType == ExcludeBottomBar)
+    // Whoever has the touches, the box needs them; only the lock stands above it.
+    const bool isCalibrating
+        = m_nonInteractiveType == FullScreen && !bIsUILocked && m_prevUtilID == UTILITY_ID_SCREEN;
+    if (!bIsUILocked)
         setNonInteractiveRegion(RegionNone, QRect());
     const int answer = box.exec();
     if (isOverTestApp)
         procDelayUnlock();
+    else if (isCalibrating && !bIsUILocked && m_prevUtilID == UTILITY_ID_SCREEN)
+        setNonInteractiveRegion(FullScreen, QRect());
     return answer;
 }
 

@@ -224,6 +224,7 @@ private:
     void execStoragePage();
     void showMeasuredStorage(const StorageStatus& status);
     void restoreLastUtilState();
+    void endInquiry();
 
     // Focus
     void tapFocusWidget();

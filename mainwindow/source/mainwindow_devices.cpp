@@ -209,12 +209,20 @@ void CMainWindow::dlgPopoff()
     if (!m_isInquiryServed || m_pInqSysStatCode == INQUIRE_SYS_STAT_NONE || id < 0
         || (id != POPUP_WND_ID_INQUIRE_STAT_POWER && id != POPUP_WND_ID_INQUIRE_STAT_USB_DISK))
         return;
+    setWindowVisible(false);
+    endInquiry();
+    restoreLastUtilState();
+}
+
+void CMainWindow::endInquiry()
+{
+    if (!m_isInquiryServed)
+        return;
+    m_isInquiryServed = false;
     bIsClientInBackWithPopup = false;
     bIsShouldFakeDesktopShown = false;
-    setWindowVisible(false);
     setFakeDesktopVisible(false);
     m_pInqSysStatCode = INQUIRE_SYS_STAT_NONE;
-    restoreLastUtilState();
 }
 
 void CMainWindow::restoreLastUtilState()

@@ -17,6 +17,8 @@
 #include <QScreen>
 #include <QThread>
 
+#include <cerrno>
+
 namespace {
 
 constexpr unsigned long FOREGROUND_POLL = 200; // ms
@@ -26,7 +28,8 @@ constexpr unsigned long FOREGROUND_POLL = 200; // ms
 void CMainWindow::lockScreen()
 {
     CSystemSettings* settings = CSystemSettings::globalSettings();
-    if (settings->getAttribute(CSystemSettings::LockScreenORSaveScreen).toBool()) {
+    // A locked screen can always be unlocked, whatever became of the setting.
+    if (bIsUILocked || settings->getAttribute(CSystemSettings::LockScreenORSaveScreen).toBool()) {
         bIsUILocked = !bIsUILocked;
         setScreenLocked(bIsUILocked);
         emit lockStateChanged(bIsUILocked);
@@ -50,10 +53,14 @@ void CMainWindow::saveScreen()
     // without a buffer: a buffered file does not tell of a short write.
     QBuffer png;
     QSaveFile file(fileName);
-    if (!png.open(QIODevice::WriteOnly) || !picture.save(&png, "PNG")
-        || !file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(png.data()) != png.size()
-        || !file.commit())
-        qWarning().noquote() << "Can not save the screen to" << fileName << '-' << file.errorString();
+    qint64 written = -1;
+    if (png.open(QIODevice::WriteOnly) && picture.save(&png, "PNG")
+        && file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        written = file.write(png.data());
+    const bool isShort = written >= 0 && written < png.size(); // the file does not say why
+    if (isShort || written < 0 || !file.commit())
+        qWarning().noquote() << "Can not save the screen to" << fileName << '-'
+                             << (isShort ? qt_error_string(ENOSPC) : file.errorString());
     ++m_saveScreenCount; // attempts, not files
 }
 
@@ -91,8 +98,8 @@ void CMainWindow::setScreenLocked(bool locked)
     // A dialog over the test application needs the touches; with its end the application has them again.
     const auto* dialog = qobject_cast<CDialog*>(QApplication::activeModalWidget());
     const bool isDialogUp = dialog && !dialog->isAside();
-    setNonInteractiveRegion(locked                                   ? FullScreen
-            : m_winVisibleReason == TestAppForeground && !isDialogUp ? ExcludeBottomBar
-                                                                     : RegionNone,
-        QRect());
+    setNonInteractiveRegion(locked ? FullScreen : RegionNone, QRect());
+    // After that: the grab of the whole screen has to go, or the test application would get no touch.
+    if (!locked && m_winVisibleReason == TestAppForeground && !isDialogUp)
+        setNonInteractiveRegion(ExcludeBottomBar, QRect());
 }

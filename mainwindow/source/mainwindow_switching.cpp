@@ -159,10 +159,11 @@ void CMainWindow::procDelayUnlock()
 {
     if (bIsUILocked)
         return; // only F4 ends that, and then sets the region
+    if (m_winVisibleReason == OtherReason)
+        return;
+    setNonInteractiveRegion(RegionNone, QRect()); // with the grab of the whole screen
     if (m_winVisibleReason == TestAppForeground)
         setNonInteractiveRegion(ExcludeBottomBar, QRect());
-    else if (m_winVisibleReason == TestAppBackground)
-        setNonInteractiveRegion(RegionNone, QRect());
 }
 
 void CMainWindow::leavePlugin()

@@ -35,6 +35,7 @@ void CMainWindow::setWindowVisible(bool visible)
             child->update();
         repaint();
         setDialogsAside(false);
+        endInquiry(); // the test application went while its page was open
         if (m_nonInteractiveType == ExcludeBottomBar)
             procDelayUnlock(); // that was for the test application
     } else {

@@ -1,4 +1,5 @@
 #include "advancemenu.h"
+#include "fakedesktop.h"
 #include "focussearch.h"
 #include "mainwindow.h"
 #include "powermonitor.h"
@@ -105,6 +106,8 @@ private slots:
     void informationPages();
     void storagePageOverTestApplication();
     void pageOpenBeforeTheTestApplication();
+    void testApplicationGoesWhileItsPageIsOpen();
+    void lockOutlivesItsSetting();
     void changedBacklightTimeIsTakenOver();
 
 private:
@@ -467,6 +470,29 @@ void TestKeys::pageOpenBeforeTheTestApplication()
     emit g_pSigTransfer->queryPowerInfo();
     QVERIFY(page.isDone());
     QVERIFY(m_window->isNeedInteractive()); // closing it did not send the shell away
+    QCOMPARE(region(), QRect());
+}
+
+void TestKeys::testApplicationGoesWhileItsPageIsOpen()
+{
+    m_window->setWindowVisible(false);
+    emit g_pSigTransfer->queryStorageInfo();
+    CWithDialog page([this](CDialog* dialog) {
+        m_window->setWindowVisible(true);
+        dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+    });
+    m_window->inquireSystemState();
+    QVERIFY(page.isDone());
+    QVERIFY(m_window->isNeedInteractive());
+    QCOMPARE(region(), QRect());
+    QVERIFY(m_window->findChild<CFakeDesktop*>()->isHidden());
+}
+
+void TestKeys::lockOutlivesItsSetting()
+{
+    press(Qt::Key_F4);
+    setSetting(CSystemSettings::LockScreenORSaveScreen, false);
+    press(Qt::Key_F4);
     QCOMPARE(region(), QRect());
 }
 

@@ -384,6 +384,7 @@ void TestLock::dialogOverATestApplicationCanBeAnswered()
     press(Qt::Key_F4);
     press(Qt::Key_F4);
     QCOMPARE(region(), QRect(0, 0, 800, 460));
+    QVERIFY(m_screen.isTouchDelivered({400, 470})); // and the test application gets touches
     write(INDICATOR);
     CWithDialog box([this](CDialog* dialog) {
         QCOMPARE(region(), QRect());
@@ -519,6 +520,15 @@ void TestLock::endDuringTheWaitForTheScreen()
     QVERIFY(!m_window->isNeedInteractive());
     QVERIFY(!box.isDone());
     setSetting(CSystemSettings::SaveScreenMaxNum, 50);
+
+    // An end while locked leaves no mark that would tell others of a lock nobody can lift.
+    setSetting(CSystemSettings::LockScreenORSaveScreen, true);
+    press(Qt::Key_F4);
+    QVERIFY(QFile::exists(MARK));
+    m_window.reset();
+    QVERIFY(!QFile::exists(MARK));
+    QCOMPARE(region(), QRect(0, 0, 800, 460)); // its last word
+    qApp->setProperty("NonInteractiveRegion", QRect());
 }
 
 QTEST_MAIN(TestLock)

@@ -4,6 +4,7 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
+#include <poll.h>
 
 CXScreen::CXScreen()
     : m_display(XOpenDisplay(nullptr))
@@ -78,4 +79,28 @@ void CXScreen::touch(const QPoint& at) const
     XTestFakeButtonEvent(m_display, 1, True, CurrentTime);
     XTestFakeButtonEvent(m_display, 1, False, CurrentTime);
     XSync(m_display, False);
+}
+
+bool CXScreen::isTouchDelivered(const QPoint& at) const
+{
+    XSetWindowAttributes attributes = {};
+    attributes.override_redirect = True;
+    attributes.event_mask = ButtonPressMask | ExposureMask;
+    const Window window = XCreateWindow(m_display, DefaultRootWindow(m_display), at.x() - 5, at.y() - 5, 10,
+        10, 0, CopyFromParent, InputOutput, nullptr, CWOverrideRedirect | CWEventMask, &attributes);
+    XMapRaised(m_display, window);
+    XSync(m_display, False);
+    touch(at);
+    pollfd connection = {ConnectionNumber(m_display), POLLIN, 0};
+    bool isDelivered = false;
+    XEvent event;
+    do {
+        while (XPending(m_display)) {
+            XNextEvent(m_display, &event);
+            isDelivered = isDelivered || event.type == ButtonPress;
+        }
+    } while (!isDelivered && ::poll(&connection, 1, 2000) > 0);
+    XDestroyWindow(m_display, window);
+    XSync(m_display, False);
+    return isDelivered;
 }

@@ -35,6 +35,10 @@ public:
     /** Touches a point of the screen, as the touch screen's driver does: pressed and released. */
     void touch(const QPoint& at) const;
 
+    /** Whether a touch there comes to a window of this connection, as it would to another program's; false
+     * after 2 s. */
+    bool isTouchDelivered(const QPoint& at) const;
+
 private:
     _XDisplay* m_display;
 };

@@ -132,6 +132,12 @@ private slots:
         QTest::mouseRelease(m_left, Qt::LeftButton);
 
         QTest::mousePress(m_left, Qt::LeftButton);
+        dropLeftHalf();
+        QVERIFY(!m_left->isDown());
+        setRegion(QRect());
+        QTest::mouseRelease(m_left, Qt::LeftButton);
+
+        QTest::mousePress(m_left, Qt::LeftButton);
         CDialog dialog(m_window.get());
         dialog.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dialog));

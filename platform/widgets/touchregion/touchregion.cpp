@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr const char RegionName[] = "NonInteractiveRegion";
+
 /** The filter on the application. Sees every event twice: at the window, then at the widget. */
 class CTouchRegion : public QObject
 {
@@ -37,6 +39,16 @@ public:
         case QEvent::TouchUpdate:
         case QEvent::TouchEnd:
             return filterTouch(static_cast<QTouchEvent*>(event));
+        case QEvent::DynamicPropertyChange:
+            if (receiver == qApp
+                && static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() == RegionName) {
+                const QWidgetList widgets = QApplication::allWidgets();
+                for (QWidget* widget : widgets) {
+                    if (isTouchDropped(widget))
+                        letGo(qobject_cast<QAbstractButton*>(widget));
+                }
+            }
+            return false;
         case QEvent::Hide:
             letGo(qobject_cast<QAbstractButton*>(receiver));
             return false;
@@ -63,7 +75,7 @@ private:
             cancelPress(button, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
     }
 
-    static QRect region() { return qApp->property("NonInteractiveRegion").toRect(); }
+    static QRect region() { return qApp->property(RegionName).toRect(); }
 
     static bool drop(QEvent* event, bool dropped)
     {
@@ -161,7 +173,5 @@ void installTouchRegion()
 
 bool isTouchDropped(const QWidget* widget)
 {
-    return qApp->property("NonInteractiveRegion")
-        .toRect()
-        .contains(widget->mapToGlobal(widget->rect().center()));
+    return qApp->property(RegionName).toRect().contains(widget->mapToGlobal(widget->rect().center()));
 }
