@@ -1,0 +1,293 @@
+#include "advancemenu.h"
+#include "homepage.h"
+#include "startutilwindow.h"
+#include "switchappwindow.h"
+#include "systemsettingsmenu.h"
+#include "topbar.h"
+#include "widgets/keypad/keypaddialog.h"
+#include "widgets/toolbox/toolbox.h"
+
+#include <QPointer>
+#include <QWindow>
+
+#include "boxanswer.h"
+#include "drivenwindow.h"
+#include "withdialog.h"
+#include "xscreen.h"
+
+/** Plug-ins that come and go, and the test application in front. */
+class TestSwitching : public QObject, private CDrivenWindow
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { reset(); }
+
+    void calibrationNeedsConsent();
+    void calibrationGivesTheInputBack();
+    void pluginLifeCycle();
+    void closeOnSavedIsHome();
+    void failedStartIsReported();
+    void homeDuringTheWaitLoadsNothing();
+    void comingBackDuringTheWaitStartsOnce();
+    void browserLocksInputForAWhile();
+    void testApplicationInFront();
+    void dialogStepsAsideForATestApplication();
+    void errorBehindATestApplicationWaits();
+    void pageStartedBehindATestApplicationIsPainted();
+    void switchOverlay();
+    void missingLibraryShowsTheLoadersText();
+};
+
+void TestSwitching::initTestCase()
+{
+    m_window = std::make_unique<CMainWindow>(nullptr);
+    m_window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    m_window->move(0, 0);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void TestSwitching::calibrationNeedsConsent()
+{
+    choose(UTILITY_ID_ADVTOOL);
+    CBoxAnswer box("cancel");
+    m_window->changeCurrentUtil(UTILITY_ID_SCREEN);
+    QCOMPARE(box.title(), QStringLiteral("Warning"));
+    QCOMPARE(box.text(), QStringLiteral("Proceed with touch screen calibration?"));
+    QVERIFY(page<CAdvanceMenu>()->isVisible());
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_ADVTOOL);
+    QVERIFY(!closeShown());
+}
+
+void TestSwitching::calibrationGivesTheInputBack()
+{
+    const QString library = QStringLiteral("libsettingscreen.so");
+    installFixture("libfixture_recorder.so", library);
+    CBoxAnswer consent("ok");
+    m_window->changeCurrentUtil(UTILITY_ID_SCREEN);
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    QTRY_COMPARE(region(), QRect(0, 0, 800, 480));
+    // A reported failure can be answered meanwhile.
+    QFile indicator(QStringLiteral("/tmp/.sysfail_indicator"));
+    QVERIFY(indicator.open(QIODevice::WriteOnly));
+    CWithDialog failure([this](CDialog* dialog) {
+        QCOMPARE(region(), QRect());
+        dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+    });
+    QVERIFY(QMetaObject::invokeMethod(m_window.get(), "selftestPopup"));
+    QVERIFY(failure.isDone());
+    QCOMPARE(region(), QRect(0, 0, 800, 480));
+    m_window->triggerHome();
+    QCOMPARE(region(), QRect());
+
+    QFile refuse(QStringLiteral("/tmp/fixture-refuses")); // the library stays loaded, so it is the same one
+    QVERIFY(refuse.open(QIODevice::WriteOnly));
+    CBoxAnswer again("ok");
+    m_window->changeCurrentUtil(UTILITY_ID_SCREEN);
+    CBoxAnswer failed("ok");
+    QTRY_VERIFY(failed.isAnswered());
+    QCOMPARE(failed.title(), QStringLiteral("Load plugin"));
+    QCOMPARE(region(), QRect());
+    QVERIFY(
+        pluginCalls().indexOf(QStringLiteral("refused")) < pluginCalls().lastIndexOf(QStringLiteral("stop")));
+    QVERIFY(refuse.remove());
+    QFile::remove(PLUGIN_DIR + library);
+}
+
+void TestSwitching::pluginLifeCycle()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libnetwiz.so"));
+    choose(UTILITY_ID_ADVTOOL);
+    choose(UTILITY_ID_NET_WIZARD);
+    QVERIFY(page<CAdvanceMenu>()->isHidden());
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    const QStringList started = pluginCalls();
+    QVERIFY(started.indexOf(QStringLiteral("setCallerID 65540")) >= 0);
+    QVERIFY(started.indexOf(QStringLiteral("setCallerID 65540")) < started.indexOf(QStringLiteral("start")));
+
+    choose(UTILITY_ID_NET_WIZARD); // already up
+    m_window->setWindowVisible(false);
+    m_window->setWindowVisible(true);
+    QCOMPARE(
+        pluginCalls().mid(started.size()), QStringList({QStringLiteral("hide"), QStringLiteral("show")}));
+
+    QObject* object = m_window->findChild<QWidget*>(QStringLiteral("fixturePage"));
+    QVERIFY(object);
+    const QPointer<QObject> pluginPage(object);
+    QVERIFY(QMetaObject::invokeMethod(object, "askToClose"));
+    QTRY_VERIFY(page<CHomePage>()->isVisible());
+    QVERIFY(!pluginPage);
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_BEGIN);
+}
+
+void TestSwitching::closeOnSavedIsHome()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libresultman.so"));
+    choose(UTILITY_ID_ADVTOOL);
+    choose(UTILITY_ID_RESULT_MANAGER);
+    QVERIFY(homeShown() && closeShown());
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    icon("closeButton")->click();
+    QVERIFY(page<CHomePage>()->isVisible());
+    QVERIFY(!homeShown() && !closeShown());
+    QVERIFY(pluginCalls().contains(QStringLiteral("stop")));
+}
+
+void TestSwitching::failedStartIsReported()
+{
+    installFixture("libfixture_failstart.so", QStringLiteral("libharbor.so"));
+    CBoxAnswer box("ok");
+    choose(UTILITY_ID_HARBOR);
+    QTRY_VERIFY(box.isAnswered());
+    QCOMPARE(box.title(), QStringLiteral("Load plugin"));
+    QVERIFY(!box.text().isEmpty());
+    m_window->triggerHome();
+    QVERIFY(page<CHomePage>()->isVisible());
+}
+
+void TestSwitching::homeDuringTheWaitLoadsNothing()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libnetwiz.so"));
+    choose(UTILITY_ID_NET_WIZARD);
+    m_window->triggerHome();
+    // Another utility that does start tells that the first one's turn has passed.
+    installFixture("libfixture_recorder.so", QStringLiteral("libresultman.so"));
+    QFile::remove(PLUGIN_LOG);
+    choose(UTILITY_ID_RESULT_MANAGER);
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    QCOMPARE(pluginCalls().count(QStringLiteral("start")), 1);
+}
+
+void TestSwitching::comingBackDuringTheWaitStartsOnce()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libnetwiz.so"));
+    choose(UTILITY_ID_NET_WIZARD);
+    m_window->triggerHome();
+    choose(UTILITY_ID_NET_WIZARD);
+    // The word of the first request, which was on its way, and then that of the second.
+    for (int word = 0; word < 2; ++word)
+        QVERIFY(QMetaObject::invokeMethod(m_window.get(), "utilReady", Q_ARG(int, UTILITY_ID_NET_WIZARD)));
+    QCOMPARE(pluginCalls().count(QStringLiteral("start")), 1);
+}
+
+void TestSwitching::browserLocksInputForAWhile()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libwebbrowser.so"));
+    m_window->changeCurrentUtil(UTILITY_ID_BROWSER);
+    QCOMPARE(region(), QRect(0, 0, 800, 480));
+    QTRY_COMPARE_WITH_TIMEOUT(region(), QRect(), 5000);
+}
+
+void TestSwitching::testApplicationInFront()
+{
+    choose(UTILITY_ID_SETTINGS);
+    emit m_window->windowVisibleChanged(false);
+    QVERIFY(m_window->isVisible());
+    QVERIFY(page<CTopBar>()->isHidden());
+    QVERIFY(page<CToolBox>()->isHidden());
+    QVERIFY(page<CSystemSettingsMenu>()->isHidden());
+    QVERIFY(!m_window->isNeedInteractive());
+    QVERIFY(!m_window->mask().isEmpty());
+    QVERIFY(!m_window->mask().intersects(QRect(0, 0, 800, 459)));
+    QTRY_COMPARE(CXScreen().pixel({400, 30}), QColor(Qt::black)); // the root window shows through
+
+    emit m_window->windowVisibleChanged(true);
+    QVERIFY(page<CTopBar>()->isVisible());
+    QVERIFY(page<CToolBox>()->isVisible());
+    QVERIFY(page<CSystemSettingsMenu>()->isVisible());
+    QVERIFY(m_window->isNeedInteractive());
+    QVERIFY(QRegion(m_window->rect()).subtracted(m_window->mask()).isEmpty());
+    QVERIFY(page<CSwitchAppWindow>()->isHidden()); // nothing is being loaded or released
+    QTRY_COMPARE(CXScreen().pixel({560, 2}), QColor(181, 199, 239));
+}
+
+void TestSwitching::dialogStepsAsideForATestApplication()
+{
+    CKeyPadDialog pad(
+        QStringLiteral("Name"), QStringLiteral("half a"), CKeyPadFactory::KeyPadText, m_window.get());
+    pad.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&pad));
+    const QPoint place = pad.geometry().topLeft() + QPoint(30, 30);
+    const CXScreen screen;
+    const QColor shown = screen.pixel(place);
+    m_window->setWindowVisible(false);
+    QTRY_COMPARE(screen.pixel(place), QColor(Qt::black)); // the root window
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Return, Qt::Key_Return})
+        QTest::keyClick(pad.windowHandle(), key);
+    QVERIFY(pad.isVisible()); // it is not answered
+    QVERIFY(!pad.markedButton());
+    m_window->setWindowVisible(true);
+    QTRY_COMPARE(screen.pixel(place), shown);
+    auto* cancel = pad.findChild<CPushButton*>(QStringLiteral("cancel"));
+    QVERIFY(cancel);
+    screen.touch(cancel->mapToGlobal(cancel->rect().center()));
+    QTRY_VERIFY(!pad.isVisible());
+}
+
+void TestSwitching::errorBehindATestApplicationWaits()
+{
+    choose(UTILITY_ID_NET_WIZARD); // there is none
+    m_window->setWindowVisible(false);
+    bool isAside = false;
+    CWithDialog box([&](CDialog* dialog) {
+        isAside = dialog->isAside();
+        m_window->setWindowVisible(true);
+        QVERIFY(!dialog->isAside());
+        dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+    });
+    QTRY_VERIFY(box.isDone());
+    QVERIFY(isAside);
+}
+
+void TestSwitching::pageStartedBehindATestApplicationIsPainted()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libnetwiz.so"));
+    m_window->setWindowVisible(false);
+    m_window->changeCurrentUtil(UTILITY_ID_NET_WIZARD);
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    m_window->setWindowVisible(true);
+    QTRY_COMPARE(CXScreen().pixel({400, 300}), QColor(0x5c, 0x78, 0x5f));
+}
+
+void TestSwitching::switchOverlay()
+{
+    auto* overlay = page<CSwitchAppWindow>();
+    QCOMPARE(overlay->geometry(), QRect(0, 60, 800, 400));
+    QVERIFY(overlay->isFinished());
+    overlay->start(QStringLiteral("Loading"));
+    QVERIFY(overlay->isVisible() && !overlay->isFinished());
+    const QImage withText = overlay->grab().toImage();
+    overlay->clearMessage();
+    const QImage without = overlay->grab().toImage();
+    // The message is in the lowest 114 pixels and nowhere else.
+    QCOMPARE(withText.copy(0, 0, 800, 280), without.copy(0, 0, 800, 280));
+    QVERIFY(withText.copy(0, 285, 800, 114) != without.copy(0, 285, 800, 114));
+    overlay->finish();
+    QVERIFY(overlay->isHidden() && overlay->isFinished());
+}
+
+void TestSwitching::missingLibraryShowsTheLoadersText()
+{
+    {
+        CBoxAnswer none("ok"); // one without a library, whose error must not stay for the next
+        m_window->changeCurrentUtil(UTILITY_ID_TOOLS);
+        QTRY_COMPARE(none.text(), QStringLiteral("Invalid plugin ID."));
+    }
+    CBoxAnswer box("ok");
+    choose(UTILITY_ID_NET_WIZARD);
+    QVERIFY(m_window->findChild<CStartUtilWindow*>()->isVisible());
+    QCOMPARE(m_window->findChild<CStartUtilWindow*>()->message(), QStringLiteral("Network Wizard"));
+    QTRY_VERIFY(box.isAnswered());
+    QCOMPARE(box.title(), QStringLiteral("Load plugin"));
+    QVERIFY(!box.text().isEmpty() && !box.text().startsWith(QStringLiteral("Invalid")));
+    QVERIFY(m_window->findChild<CStartUtilWindow*>()->isVisible());
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_NET_WIZARD);
+    // The box stands in the working area, a little right of its centre.
+    QVERIFY(QRect(160, 60, 640, 400).contains(box.geometry()));
+    QCOMPARE(box.geometry().x(), 160 + 320 - box.geometry().width() / 2 + 4);
+}
+
+QTEST_MAIN(TestSwitching)
+#include "tst_switching.moc"
