@@ -1,6 +1,7 @@
 #pragma once
 
 #include "appfeatureheader.h"
+#include "fixtureplugins.h"
 #include "mainwindow.h"
 #include "widgets/statusicon/statusicon.h"
 #include "widgets/toolbox/toolboxbutton.h"
@@ -8,28 +9,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QTest>
-
-// What the tests that drive the main window share.
-
-inline const QString PLUGIN_DIR = QStringLiteral("/usr/local/arvo/plugins/");
-inline const QString PLUGIN_LOG = QStringLiteral("/tmp/fixture-plugin.log");
-
-/** What the recording plug-in has written down. */
-inline QStringList pluginCalls()
-{
-    QFile file(PLUGIN_LOG);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-}
-
-/** Puts a fixture library where the shell looks for the plug-in of this name. */
-inline void installFixture(const char* fixture, const QString& libraryName)
-{
-    QFile::remove(PLUGIN_DIR + libraryName);
-    const QString from = QStringLiteral(FIXTURE_DIR "/") + QLatin1String(fixture);
-    QVERIFY2(QFile::copy(from, PLUGIN_DIR + libraryName), qPrintable(from));
-}
 
 /** A main window, driven as a person drives it. */
 class CDrivenWindow
@@ -66,7 +45,7 @@ protected:
     void reset()
     {
         m_window->triggerHome();
-        QFile::remove(PLUGIN_LOG);
+        clearPluginCalls();
         for (const char* name : {"libIPtool.so", "libnetwiz.so", "libresultman.so", "libwebbrowser.so"})
             QFile::remove(PLUGIN_DIR + QLatin1String(name));
     }

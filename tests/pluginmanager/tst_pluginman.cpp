@@ -1,3 +1,4 @@
+#include "fixtureplugins.h"
 #include "pluginman.h"
 #include "utilinterface.h"
 
@@ -11,32 +12,15 @@
 
 namespace {
 
-const QString DIRECTORY = QStringLiteral("/usr/local/arvo/plugins");
-const QString LOG = QStringLiteral("/tmp/fixture-plugin.log");
-
 QString pathOf(const char* library)
 {
-    return DIRECTORY + QLatin1Char('/') + QLatin1String(library);
-}
-
-void install(const char* fixture, const char* library)
-{
-    QFile::remove(pathOf(library));
-    QVERIFY(QFile::copy(QStringLiteral(FIXTURE_DIR "/") + QLatin1String(fixture), pathOf(library)));
+    return PLUGIN_DIR + QLatin1String(library);
 }
 
 QByteArray fixture(const char* name)
 {
-    QFile file(QStringLiteral(FIXTURE_DIR "/") + QLatin1String(name));
+    QFile file(fixturePath(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList calls()
-{
-    QFile file(LOG);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
 } // namespace
@@ -64,13 +48,13 @@ private slots:
 
 void TestPluginManager::init()
 {
-    QDir directory(DIRECTORY);
+    QDir directory(PLUGIN_DIR);
     for (const QString& name : directory.entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot)) {
         const QString path = directory.filePath(name);
         if (!QFile::remove(path))
             QDir(path).removeRecursively();
     }
-    QFile::remove(LOG);
+    clearPluginCalls();
 }
 
 void TestPluginManager::utilities_data()
@@ -114,8 +98,7 @@ void TestPluginManager::utilities()
     QFETCH(QString, library);
     CPluginManager manager;
     const auto util = UtilityID(id);
-    QCOMPARE(manager.getPluginFileName(util),
-        library.isEmpty() ? QString() : DIRECTORY + QLatin1Char('/') + library);
+    QCOMPARE(manager.getPluginFileName(util), library.isEmpty() ? QString() : PLUGIN_DIR + library);
     QTEST(manager.getPluginName(util), "name");
     QTEST(manager.isPlugin(util), "isPlugin");
     QTEST(manager.isPluginReleased(util), "isReleased");
@@ -132,12 +115,12 @@ void TestPluginManager::nothingLoadedDoesNothing()
     manager.setPluginWindowVisible(false);
     manager.updatePluginWindow();
     QVERIFY(!manager.unloadPlugin());
-    QVERIFY(calls().isEmpty());
+    QVERIFY(pluginCalls().isEmpty());
 }
 
 void TestPluginManager::drivesTheCurrentPlugin()
 {
-    install("libfixture_recorder.so", "libharbor.so");
+    installFixture("libfixture_recorder.so", QStringLiteral("libharbor.so"));
     CPluginManager manager;
     QWidget host;
     UtilInterface* plugin = manager.loadPlugin(UTILITY_ID_HARBOR);
@@ -151,24 +134,24 @@ void TestPluginManager::drivesTheCurrentPlugin()
     QVERIFY(host.children().isEmpty());
     // The library stays: the same object serves the next start.
     QCOMPARE(manager.loadPlugin(UTILITY_ID_HARBOR), plugin);
-    QCOMPARE(calls().join(QLatin1Char(' ')), QStringLiteral("start hide show update stop stop"));
+    QCOMPARE(pluginCalls().join(QLatin1Char(' ')), QStringLiteral("start hide show update stop stop"));
 }
 
 void TestPluginManager::lastLoadedIsDriven()
 {
-    install("libfixture_recorder.so", "libharbor.so");
+    installFixture("libfixture_recorder.so", QStringLiteral("libharbor.so"));
     CPluginManager manager;
     QVERIFY(manager.loadPlugin(UTILITY_ID_HARBOR));
     QVERIFY(!manager.loadPlugin(UTILITY_ID_VFL)); // there is no such library
     manager.updatePluginWindow();
     QVERIFY(!manager.unloadPlugin());
-    QVERIFY(calls().isEmpty());
+    QVERIFY(pluginCalls().isEmpty());
 }
 
 void TestPluginManager::noInterface()
 {
-    install("libfixture_nointerface.so", "libodmtool.so");
-    install("libfixture_recorder.so", "libharbor.so");
+    installFixture("libfixture_nointerface.so", QStringLiteral("libodmtool.so"));
+    installFixture("libfixture_recorder.so", QStringLiteral("libharbor.so"));
     CPluginManager manager;
     QVERIFY(manager.loadPlugin(UTILITY_ID_HARBOR));
     QTest::ignoreMessage(
@@ -177,7 +160,7 @@ void TestPluginManager::noInterface()
     QVERIFY(!manager.errorString().isEmpty());
     QVERIFY(!manager.unloadPlugin()); // the library is loaded, and there is nothing to stop
     manager.setPluginWindowVisible(true);
-    QVERIFY(calls().isEmpty()); // the one loaded before is no longer driven
+    QVERIFY(pluginCalls().isEmpty()); // the one loaded before is no longer driven
 }
 
 void TestPluginManager::unusableFile_data()
@@ -224,7 +207,7 @@ void TestPluginManager::directory()
 
 void TestPluginManager::unreadableFile()
 {
-    install("libfixture_recorder.so", "libvfl.so");
+    installFixture("libfixture_recorder.so", QStringLiteral("libvfl.so"));
     QVERIFY(QFile::setPermissions(pathOf("libvfl.so"), QFile::Permissions()));
     // root may read everything: look as somebody else for as long as it takes.
     const bool isRoot = ::geteuid() == 0;
@@ -240,7 +223,7 @@ void TestPluginManager::unreadableFile()
 
 void TestPluginManager::errorStaysUntilCleared()
 {
-    install("libfixture_recorder.so", "libharbor.so");
+    installFixture("libfixture_recorder.so", QStringLiteral("libharbor.so"));
     CPluginManager manager;
     QVERIFY(!manager.loadPlugin(UTILITY_ID_SETTINGS));
     QVERIFY(manager.loadPlugin(UTILITY_ID_HARBOR));
@@ -253,18 +236,18 @@ void TestPluginManager::terminateReachesBothBackgroundPlugins()
 {
     CPluginManager manager;
     QVERIFY(!manager.terminatePlugin());
-    install("libfixture_recorder.so", "libIPtool.so");
+    installFixture("libfixture_recorder.so", QStringLiteral("libIPtool.so"));
     QVERIFY(!manager.terminatePlugin()); // one of the two is missing, the other is ended all the same
-    QCOMPARE(calls().count(QStringLiteral("terminate")), 1);
-    install("libfixture_recorder.so", "libostrel.so");
+    QCOMPARE(pluginCalls().count(QStringLiteral("terminate")), 1);
+    installFixture("libfixture_recorder.so", QStringLiteral("libostrel.so"));
     QVERIFY(manager.terminatePlugin());
-    QCOMPARE(calls().count(QStringLiteral("terminate")), 3);
+    QCOMPARE(pluginCalls().count(QStringLiteral("terminate")), 3);
 }
 
 void TestPluginManager::manyLoadsKeepTheDescriptors()
 {
-    install("libfixture_recorder.so", "libharbor.so");
-    install("libfixture_failstart.so", "libOpm.so");
+    installFixture("libfixture_recorder.so", QStringLiteral("libharbor.so"));
+    installFixture("libfixture_failstart.so", QStringLiteral("libOpm.so"));
     const auto descriptors = [] { return QDir(QStringLiteral("/proc/self/fd")).count(); };
     CPluginManager manager;
     QVERIFY(manager.loadPlugin(UTILITY_ID_HARBOR));

@@ -1,5 +1,6 @@
 #include "shellprocess.h"
 
+#include "fixtureplugins.h"
 #include "globalsetting.h"
 #include "xscreen.h"
 
@@ -14,8 +15,6 @@
 
 namespace {
 
-const QString PLUGIN_DIR = QStringLiteral("/usr/local/arvo/plugins/");
-const QString PLUGIN_LOG = QStringLiteral("/tmp/fixture-plugin.log");
 const QString CONF_DIR = QStringLiteral("/home/root/.zentra");
 constexpr const char KEY_FILE[] = "/usr/local/arvo/share/res/keys/global";
 constexpr int KEY_PROJECT = 86;
@@ -68,7 +67,7 @@ void TestShell::init()
 {
     QDir(CONF_DIR).removeRecursively();
     QFile::remove(CONF_DIR);
-    QFile::remove(PLUGIN_LOG);
+    clearPluginCalls();
 }
 
 void TestShell::windowManagerPlacesTheWindow()
@@ -94,19 +93,19 @@ void TestShell::endsInOrder()
     const QString resident = PLUGIN_DIR + QStringLiteral("libIPtool.so");
     const QString kept = PLUGIN_DIR + QStringLiteral("kept");
     QVERIFY(QFile::rename(resident, kept));
-    QVERIFY(QFile::copy(QStringLiteral(FIXTURE_DIR "/libfixture_recorder.so"), resident));
+    installFixture("libfixture_recorder.so", QStringLiteral("libIPtool.so"));
 
     CShellProcess shell;
     QVERIFY2(shell.waitForHome(), qPrintable(shell.log()));
-    QTRY_VERIFY(read(PLUGIN_LOG).contains("bkgRun")); // an earlier signal ends the shell before
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("bkgRun"))); // an earlier signal ends the shell before
     shell.sendSignal(sig);
     QVERIFY(shell.waitForLog(QStringLiteral("###Signal %1 Terminate is comming!").arg(sig)));
     shell.sendSignal(sig); // nothing more for a second one
     QVERIFY(shell.waitForEnd());
     QCOMPARE(shell.exitCode(), 0);
-    const QByteArrayList calls = read(PLUGIN_LOG).split('\n');
-    QCOMPARE(calls.count("bkgRun"), 1);
-    QCOMPARE(calls.count("terminate"), 1);
+    const QStringList calls = pluginCalls();
+    QCOMPARE(calls.count(QStringLiteral("bkgRun")), 1);
+    QCOMPARE(calls.count(QStringLiteral("terminate")), 1);
     QCOMPARE(shell.log().count(QStringLiteral("handleSignal ready to save profile")), 1);
 
     QFile::remove(resident);
