@@ -1,25 +1,16 @@
-#include "mainwindow.h"
+#include "drivenwindow.h"
 #include "powermonitor.h"
 #include "sigtransfer.h"
-#include "storagemonitor.h"
-#include "systemsettings.h"
 #include "widgets/keypad/keypaddialog.h"
-#include "widgets/label/label.h"
 #include "widgets/messagebox/messagebox.h"
-#include "widgets/toolbox/toolbox.h"
-#include "widgets/toolbox/toolboxbutton.h"
 
-#include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QPainter>
 #include <QRegularExpression>
+#include <QSet>
 #include <QSignalSpy>
-#include <QTest>
+#include <QTimer>
 
 #include <csignal>
-#include <functional>
 #include <sys/resource.h>
 
 #include "boxanswer.h"
@@ -30,29 +21,8 @@ namespace {
 
 const QString MARK = QStringLiteral("/tmp/screen-locked.mark");
 const QString SCREENS = QStringLiteral("/home/arvo/screen");
-const QString INDICATOR = QStringLiteral("/tmp/.sysfail_indicator");
 const QString DIALOG_INFO = QStringLiteral("/tmp/var/lib/wmsv/dlg-info");
-const QRect WHOLE_SCREEN(0, 0, 800, 480);
-constexpr int KEY_PAUSE = 230; // ms; a key that comes sooner counts as a repeat
-constexpr int FAILURE_PERIOD = 5000; // ms
 constexpr rlim_t SMALL_FILE = 512; // bytes, less than any picture of the screen
-
-QRect region()
-{
-    return qApp->property("NonInteractiveRegion").toRect();
-}
-
-void setSetting(CSystemSettings::SystemAttribute attribute, const QVariant& value)
-{
-    CSystemSettings::globalSettings()->setAttribute(attribute, value, false);
-}
-
-void write(const QString& path, const QByteArray& content = QByteArray())
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-}
 
 QPoint middleOf(const QWidget* widget)
 {
@@ -91,8 +61,8 @@ private:
 
 } // namespace
 
-/** The lock against real touches, screenshots of the real screen, and what comes up by itself. */
-class TestLock : public QObject
+/** What F4 does: the lock against real touches, and screenshots of the real screen. */
+class TestLock : public QObject, private CDrivenWindow
 {
     Q_OBJECT
 
@@ -101,11 +71,12 @@ private slots:
     void init();
     void cleanup();
 
-    void markOfAnEarlierRunIsGone();
     void lockedScreenTakesNoTouch();
     void lockedEnterDoesNothing();
     void lockHoldsInsideDialogs_data();
     void lockHoldsInsideDialogs();
+    void pageThatComesUpDoesNotUnlock();
+    void lockOutlivesItsSetting();
     void delayedUnlockDoesNotLiftTheLock();
 
     void pictureIsTheScreen();
@@ -115,60 +86,25 @@ private slots:
     void limitWaitsForTheTestApplication();
     void limitIsToldOnce();
     void dialogOverATestApplicationCanBeAnswered();
-    void heldKeyIsOnePress();
-    void hiddenControlIsNotTapped();
 
-    void failureDismissedComesBack();
-    void pagesFollowWhileOpen();
-    void touchStartsTheBacklightTime();
     void endDuringTheWaitForTheScreen(); // the last: the application ends with it
 
 private:
-    void press(Qt::Key key, QWidget* receiver = nullptr)
-    {
-        QTRY_VERIFY(!m_sinceKey.isValid() || m_sinceKey.elapsed() >= KEY_PAUSE);
-        QTest::keyClick(receiver ? receiver : m_window.get(), key);
-        m_sinceKey.start();
-    }
-    /** The headers of the tool box, from the top. */
-    QList<CToolBoxButton*> headers() const
-    {
-        QList<CToolBoxButton*> found;
-        for (auto* button : m_window->findChildren<CToolBoxButton*>()) {
-            if (button->isVisible())
-                found << button;
-        }
-        return found;
-    }
-    bool isRunning(int interval) const
-    {
-        for (const auto* timer : m_window->findChildren<QTimer*>()) {
-            if (timer->isActive() && timer->interval() == interval)
-                return true;
-        }
-        return false;
-    }
-
-    std::unique_ptr<CMainWindow> m_window;
     CXScreen m_screen;
-    QElapsedTimer m_sinceKey;
     int m_pictures = 0; // asked for so far
 };
 
 void TestLock::initTestCase()
 {
-    write(MARK);
-    m_window = std::make_unique<CMainWindow>(nullptr);
-    m_window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
-    m_window->move(0, 0);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    // An earlier run has left its mark. While F4 saves screenshots nothing else would ever take it away.
+    writeFile(MARK);
+    open();
+    QVERIFY(!QFile::exists(MARK));
 }
 
 void TestLock::init()
 {
-    m_window->triggerHome();
-    m_window->findChild<CToolBox*>()->setOpenPage(-1);
+    reset();
     setSetting(CSystemSettings::LockScreenORSaveScreen, true);
     setSetting(CSystemSettings::SaveScreenMaxNum, 50);
     QDir(SCREENS).removeRecursively();
@@ -180,22 +116,20 @@ void TestLock::cleanup()
     QCOMPARE(region(), QRect());
 }
 
-void TestLock::markOfAnEarlierRunIsGone()
-{
-    // While F4 saves screenshots nothing else would ever take it away.
-    QVERIFY(!QFile::exists(MARK));
-}
-
 void TestLock::lockedScreenTakesNoTouch()
 {
     const QList<CToolBoxButton*> header = headers();
-    QVERIFY(header.size() > 1);
     QSignalSpy locked(header[0], &QAbstractButton::pressed);
     QSignalSpy unlocked(header[1], &QAbstractButton::clicked);
+    QSignalSpy told(g_pSigTransfer, &CSigTransfer::lockStateChanged);
+    writeFile(MARK); // one that somebody else made does not matter
     press(Qt::Key_F4);
+    QVERIFY(QFile::exists(MARK));
+    QCOMPARE(region(), WHOLE_SCREEN);
     m_screen.touch(middleOf(header[0]));
     QTest::mouseClick(header[0], Qt::LeftButton); // and one that some other way came to the process
     press(Qt::Key_F4);
+    QCOMPARE(told, (QList<QList<QVariant>>{{true}, {false}}));
     // The X server keeps the order: when this one is there, the others have been.
     m_screen.touch(middleOf(header[1]));
     QTRY_COMPARE(unlocked.size(), 1);
@@ -263,6 +197,26 @@ void TestLock::lockHoldsInsideDialogs()
     QCOMPARE(pressed.size(), 1);
 }
 
+void TestLock::pageThatComesUpDoesNotUnlock()
+{
+    press(Qt::Key_F4);
+    CWithDialog page([](CDialog* dialog) {
+        QCOMPARE(region(), WHOLE_SCREEN);
+        dialog->reject();
+    });
+    emit g_pSigTransfer->queryPowerInfo();
+    QVERIFY(page.isDone());
+    press(Qt::Key_F4);
+}
+
+void TestLock::lockOutlivesItsSetting()
+{
+    press(Qt::Key_F4);
+    setSetting(CSystemSettings::LockScreenORSaveScreen, false);
+    press(Qt::Key_F4);
+    QCOMPARE(region(), QRect());
+}
+
 void TestLock::delayedUnlockDoesNotLiftTheLock()
 {
     press(Qt::Key_F4);
@@ -285,6 +239,9 @@ void TestLock::pictureIsTheScreen()
     press(Qt::Key_F4);
     ++m_pictures;
     QCOMPARE(screens().size(), 1);
+    QVERIFY2(
+        QRegularExpression(QStringLiteral("^\\d{8}_\\d{6}\\.png$")).match(screens().constFirst()).hasMatch(),
+        qPrintable(screens().constFirst()));
     const QImage picture(SCREENS + QLatin1Char('/') + screens().constFirst(), "PNG");
     QCOMPARE(picture.size(), WHOLE_SCREEN.size());
     QSet<QRgb> colors;
@@ -316,7 +273,7 @@ void TestLock::lostPicturesCount()
 {
     setSetting(CSystemSettings::LockScreenORSaveScreen, false);
     setSetting(CSystemSettings::SaveScreenMaxNum, m_pictures + 1);
-    write(SCREENS); // where the directory should be
+    writeFile(SCREENS); // where the directory should be
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Can not save the screen")));
     press(Qt::Key_F4);
     ++m_pictures;
@@ -324,6 +281,7 @@ void TestLock::lostPicturesCount()
     CBoxAnswer box("ok");
     press(Qt::Key_F4);
     QCOMPARE(box.title(), QStringLiteral("Error saving screen!"));
+    QVERIFY(box.text().startsWith(QStringLiteral("Number of saved screenshots already reach\nor exceed")));
 }
 
 void TestLock::limitBelowTestApplicationDialog()
@@ -331,7 +289,7 @@ void TestLock::limitBelowTestApplicationDialog()
     setSetting(CSystemSettings::LockScreenORSaveScreen, false);
     setSetting(CSystemSettings::SaveScreenMaxNum, 0);
     QVERIFY(QDir().mkpath(QStringLiteral("/tmp/var/lib/wmsv")));
-    write(DIALOG_INFO, "with_dialog: 1\n");
+    writeFile(DIALOG_INFO, "with_dialog: 1\n");
     press(Qt::Key_F4); // would not come back from a box
     QVERIFY(QFile::remove(DIALOG_INFO));
 }
@@ -352,8 +310,7 @@ void TestLock::limitWaitsForTheTestApplication()
         dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
     });
     // Not press(): it runs the event loop, and so the single shot, before the key.
-    QTest::keyClick(m_window.get(), Qt::Key_F4);
-    m_sinceKey.start();
+    pressAtOnce(Qt::Key_F4);
     QVERIFY(box.isDone());
     QVERIFY(wasInFront);
     QVERIFY(isShellInFront);
@@ -383,9 +340,9 @@ void TestLock::dialogOverATestApplicationCanBeAnswered()
     m_window->setWindowVisible(false);
     press(Qt::Key_F4);
     press(Qt::Key_F4);
-    QCOMPARE(region(), QRect(0, 0, 800, 460));
+    QCOMPARE(region(), TEST_APP_AREA);
     QVERIFY(m_screen.isTouchDelivered({400, 470})); // and the test application gets touches
-    write(INDICATOR);
+    writeFile(FAILURE_MARK);
     CWithDialog box([this](CDialog* dialog) {
         QCOMPARE(region(), QRect());
         press(Qt::Key_F4, dialog);
@@ -397,116 +354,10 @@ void TestLock::dialogOverATestApplicationCanBeAnswered()
     });
     QVERIFY(QMetaObject::invokeMethod(m_window.get(), "selftestPopup"));
     QVERIFY(box.isDone());
-    QVERIFY(!QFile::exists(INDICATOR));
-    QCOMPARE(region(), QRect(0, 0, 800, 460)); // the test application's again
+    QVERIFY(!QFile::exists(FAILURE_MARK));
+    QCOMPARE(region(), TEST_APP_AREA); // the test application's again
     m_window->setWindowVisible(true);
     QCOMPARE(region(), QRect());
-}
-
-void TestLock::heldKeyIsOnePress()
-{
-    press(Qt::Key_F4);
-    QTRY_VERIFY(m_sinceKey.elapsed() >= KEY_PAUSE); // the first repetition comes late
-    QKeyEvent repetition(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier, QString(), true);
-    QCoreApplication::sendEvent(m_window.get(), &repetition);
-    m_sinceKey.start();
-    QCOMPARE(region(), WHOLE_SCREEN);
-    press(Qt::Key_F4);
-}
-
-void TestLock::hiddenControlIsNotTapped()
-{
-    auto* box = m_window->findChild<CToolBox*>();
-    box->setOpenPage(0);
-    press(Qt::Key_Down);
-    press(Qt::Key_Down);
-    QSignalSpy chosen(box, &CToolBox::currentItemChanged);
-    box->setOpenPage(-1);
-    press(Qt::Key_Return);
-    QCoreApplication::processEvents();
-    QCOMPARE(chosen.size(), 0);
-    box->setOpenPage(0);
-    press(Qt::Key_Return);
-    QTRY_COMPARE(chosen.size(), 1); // it was the marked one
-}
-
-void TestLock::failureDismissedComesBack()
-{
-    write(INDICATOR);
-    bool isPolling = true;
-    CWithDialog dismissed([this, &isPolling](CDialog* dialog) {
-        isPolling = isRunning(FAILURE_PERIOD);
-        dialog->reject();
-    });
-    QVERIFY(QMetaObject::invokeMethod(m_window.get(), "selftestPopup"));
-    QVERIFY(dismissed.isDone());
-    QVERIFY(!isPolling); // no second box over the first
-    QVERIFY(isRunning(FAILURE_PERIOD));
-    QVERIFY(QFile::exists(INDICATOR));
-    CBoxAnswer answered("ok");
-    QVERIFY(QMetaObject::invokeMethod(m_window.get(), "selftestPopup"));
-    QVERIFY(answered.isAnswered());
-    QVERIFY(!QFile::exists(INDICATOR));
-}
-
-void TestLock::pagesFollowWhileOpen()
-{
-    const auto textOf = [](CDialog* page, const char* name) {
-        const auto* label = page->findChild<CLabel*>(QLatin1String(name));
-        return label ? label->text() : QString();
-    };
-    const auto followed = [this](const char* slot, QGenericArgument status,
-                              const std::function<QStringList(CDialog*)>& texts) {
-        QStringList before;
-        QStringList after;
-        CWithDialog page([&](CDialog* dialog) {
-            before = texts(dialog);
-            QMetaObject::invokeMethod(m_window.get(), slot, status);
-            QTRY_VERIFY((after = texts(dialog)) != before); // the figures are measured aside
-            dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
-        });
-        if (qstrcmp(slot, "updatePowerStatus") == 0)
-            emit g_pSigTransfer->queryPowerInfo();
-        else
-            emit g_pSigTransfer->queryStorageInfo();
-        return page.isDone() && before != after;
-    };
-    PowerStatus battery;
-    battery.bIsBat = true;
-    battery.fullCap = 100;
-    battery.remainCap = 37;
-    QVERIFY(followed("updatePowerStatus", Q_ARG(PowerStatus, battery), [&](CDialog* page) {
-        return QStringList{textOf(page, "state"), textOf(page, "capacity"), textOf(page, "time")};
-    }));
-    StorageStatus mounted;
-    mounted.bIsUSBDisk = mounted.bIsPlugged = mounted.bIsMounted = mounted.bIsUSBDPlugged = true;
-    mounted.USBDUsed = mounted.USBDAvail = 1000;
-    QVERIFY(followed("updateStorageStatus", Q_ARG(StorageStatus, mounted),
-        [&](CDialog* page) { return QStringList{textOf(page, "usbd")}; }));
-    // Back on mains, for the tests that follow.
-    QVERIFY(
-        QMetaObject::invokeMethod(m_window.get(), "updatePowerStatus", Q_ARG(PowerStatus, PowerStatus())));
-}
-
-void TestLock::touchStartsTheBacklightTime()
-{
-    const auto running = [this] {
-        int found = 0;
-        for (const auto* timer : m_window->findChildren<QTimer*>())
-            found += timer->isActive() && timer->isSingleShot() && timer->interval() == 900000;
-        return found;
-    };
-    setSetting(CSystemSettings::ACBacklightTime, 900);
-    setSetting(CSystemSettings::ACBacklightChanged, false); // the time has not been taken over yet
-    setSetting(CSystemSettings::ACBacklightEnabled, false);
-    QTest::mouseClick(headers().constFirst(), Qt::LeftButton);
-    QCOMPARE(running(), 0);
-    setSetting(CSystemSettings::ACBacklightEnabled, true);
-    QTest::mouseClick(headers().constFirst(), Qt::LeftButton); // on a control, not the window itself
-    QCOMPARE(running(), 1);
-    setSetting(CSystemSettings::ACBacklightEnabled, false);
-    m_window->checkSystemSettings();
-    QCOMPARE(running(), 0);
 }
 
 void TestLock::endDuringTheWaitForTheScreen()
@@ -516,7 +367,7 @@ void TestLock::endDuringTheWaitForTheScreen()
     m_window->setWindowVisible(false);
     QTimer::singleShot(0, this, [] { CMainWindow::signalHandler(SIGTERM); });
     CWithDialog box([](CDialog* dialog) { dialog->reject(); });
-    QTest::keyClick(m_window.get(), Qt::Key_F4); // comes back although the test application stays in front
+    pressAtOnce(Qt::Key_F4); // comes back although the test application stays in front
     QVERIFY(!m_window->isNeedInteractive());
     QVERIFY(!box.isDone());
     setSetting(CSystemSettings::SaveScreenMaxNum, 50);
@@ -527,7 +378,7 @@ void TestLock::endDuringTheWaitForTheScreen()
     QVERIFY(QFile::exists(MARK));
     m_window.reset();
     QVERIFY(!QFile::exists(MARK));
-    QCOMPARE(region(), QRect(0, 0, 800, 460)); // its last word
+    QCOMPARE(region(), TEST_APP_AREA); // its last word
     qApp->setProperty("NonInteractiveRegion", QRect());
 }
 

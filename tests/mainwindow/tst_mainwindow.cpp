@@ -2,13 +2,9 @@
 #include "homepage.h"
 #include "settingmoremenu.h"
 #include "sigtransfer.h"
-#include "systemsettings.h"
 #include "systemsettingsmenu.h"
 #include "widgets/entrywidget/entrywidget.h"
-#include "widgets/toolbox/toolbox.h"
 
-#include <QElapsedTimer>
-#include <QTest>
 #include <QTimer>
 
 #include <atomic>
@@ -32,7 +28,7 @@ class TestMainWindow : public QObject, private CDrivenWindow
 private slots:
     void initTestCase();
     void cleanupTestCase();
-    void init();
+    void init() { reset(); }
 
     void firstFrameIsOnTheScreenBeforeTheLaunchBlocks();
     void toolBoxAsBuilt();
@@ -102,11 +98,6 @@ void TestMainWindow::cleanupTestCase()
     QVERIFY(!g_pSigTransfer);
 }
 
-void TestMainWindow::init()
-{
-    reset();
-}
-
 void TestMainWindow::firstFrameIsOnTheScreenBeforeTheLaunchBlocks()
 {
     QVERIFY(m_shownAt >= 0);
@@ -116,7 +107,7 @@ void TestMainWindow::firstFrameIsOnTheScreenBeforeTheLaunchBlocks()
 
 void TestMainWindow::toolBoxAsBuilt()
 {
-    const auto* box = m_window->findChild<CToolBox*>();
+    const CToolBox* box = toolBox();
     QStringList rows;
     for (int p = 0; p < box->pageCount(); ++p) {
         rows << box->pageText(p);
@@ -168,7 +159,7 @@ void TestMainWindow::menuItemsAndCaption()
     QVERIFY(page<CHomePage>()->isVisible());
     QVERIFY(page<CSystemSettingsMenu>()->isHidden());
     QVERIFY(!homeShown());
-    QCOMPARE(m_window->findChild<CToolBox*>()->openPage(), -1);
+    QCOMPARE(toolBox()->openPage(), -1);
 }
 
 void TestMainWindow::menuTileOffersClose()
@@ -254,7 +245,7 @@ void TestMainWindow::usbWithoutDriveGoesHome()
 void TestMainWindow::relabelAfterLanguageChange()
 {
     m_window->translate();
-    const auto* box = page<CToolBox>();
+    const CToolBox* box = toolBox();
     QCOMPARE(box->itemText(2, 2), QStringLiteral("Manage"));
     QCOMPARE(box->itemText(1, 2), QStringLiteral("Harbor"));
     QCOMPARE(box->itemCount(0), 4);

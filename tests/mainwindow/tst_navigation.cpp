@@ -1,27 +1,20 @@
+#include "drivenwindow.h"
 #include "focussearch.h"
-#include "mainwindow.h"
 #include "powermonitor.h"
 #include "storagemonitor.h"
-#include "systemsettings.h"
 #include "widgets/keypad/keypaddialog.h"
 #include "widgets/messagebox/messagebox.h"
-#include "widgets/toolbox/toolbox.h"
 
-#include <QElapsedTimer>
 #include <QSet>
-#include <QSignalSpy>
-#include <QTest>
 
 #include <algorithm>
 #include <cstdlib>
 #include <functional>
-#include <memory>
 
 using Search = CFocusSearch;
 
 namespace {
 
-constexpr int KEY_PAUSE = 230; // ms; a key that comes sooner counts as a repeat
 constexpr int PLAIN_DIFFERENCE = 80; // of 255, in the colour channel that differs most
 
 QString nameOf(const QPushButton* button)
@@ -61,6 +54,45 @@ QList<CPushButton*> touchable(const QWidget* top)
     return found;
 }
 
+/** Buttons whose marker a person may overlook: a frame of one pixel all around changes twice as many. */
+QString faintMarkers(const QList<CPushButton*>& buttons)
+{
+    QStringList faint;
+    for (CPushButton* button : buttons) {
+        button->setArrowKeyFocus(false);
+        const int changed = changedByMarker(button);
+        if (changed < button->width() + button->height())
+            faint << QStringLiteral("%1 (%2 pixels)").arg(nameOf(button)).arg(changed);
+    }
+    return faint.join(QLatin1String("; "));
+}
+
+/** Where each control's four arrow keys lead. */
+using Ways = QHash<CPushButton*, QSet<CPushButton*>>;
+
+/** Controls that cannot be reached from each other one: empty when nothing is trapped. */
+QString unreached(const Ways& ways)
+{
+    QStringList missed;
+    for (CPushButton* first : ways.keys()) {
+        QSet<CPushButton*> reached{first};
+        QList<CPushButton*> open{first};
+        while (!open.isEmpty()) {
+            for (CPushButton* next : ways.value(open.takeLast())) {
+                if (!reached.contains(next)) {
+                    reached << next;
+                    open << next;
+                }
+            }
+        }
+        for (CPushButton* button : ways.keys()) {
+            if (!reached.contains(button))
+                missed << nameOf(button) + QStringLiteral(" from ") + nameOf(first);
+        }
+    }
+    return QStringList(missed.mid(0, 12)).join(QLatin1String("; "));
+}
+
 std::unique_ptr<CDialog> messageBox()
 {
     return std::make_unique<CMessageBox>(QStringLiteral("Warning"), QStringLiteral("Go on?"),
@@ -89,18 +121,20 @@ std::unique_ptr<CDialog> storagePage()
 
 } // namespace
 
-Q_DECLARE_METATYPE(CFocusSearch::DetectDirection)
+Q_DECLARE_METATYPE(Search::DetectDirection)
 Q_DECLARE_METATYPE(std::function<std::unique_ptr<CDialog>()>)
 
-/** Where the arrow keys lead, in windows and in dialogs, and what Enter does there. */
-class TestNavigation : public QObject
+/** Where the arrow keys lead, on pages and in dialogs, and that their marker is seen there. */
+class TestNavigation : public QObject, private CDrivenWindow
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
+    void initTestCase() { open(); }
+    void init() { reset(); }
 
+    void strips_data();
+    void strips();
     void search_data();
     void search();
     void composedControlWinsInsideItsHolderOnly();
@@ -108,46 +142,44 @@ private slots:
 
     void dialogControlsAreReached_data();
     void dialogControlsAreReached();
-    void markerIsPlain_data();
-    void markerIsPlain();
-
-    void enterTouchesOnce();
-    void enterOnADisabledControl();
-    void markedControlGoes();
-
-private:
-    void press(Qt::Key key)
-    {
-        QTRY_VERIFY(!m_sinceKey.isValid() || m_sinceKey.elapsed() >= KEY_PAUSE);
-        QTest::keyClick(m_window.get(), key);
-        m_sinceKey.start();
-    }
-    CPushButton* marked() const
-    {
-        for (auto* button : m_window->findChildren<CPushButton*>()) {
-            if (button->hasArrowKeyFocus())
-                return button;
-        }
-        return nullptr;
-    }
-
-    std::unique_ptr<CMainWindow> m_window;
-    QElapsedTimer m_sinceKey;
+    void everyControlIsReached_data();
+    void everyControlIsReached();
 };
 
-void TestNavigation::initTestCase()
+void TestNavigation::strips_data()
 {
-    m_window = std::make_unique<CMainWindow>(nullptr);
-    m_window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
-    m_window->move(0, 0);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("step");
+    QTest::addColumn<QRect>("strip");
+    using S = Search;
+    // Of a widget at (100, 100), 60 by 40: its last column is 159, its last row 139.
+    QTest::newRow("linear left") << int(S::DetectLeft) << int(S::LinearDetect) << 1 << QRect(50, 100, 50, 40);
+    QTest::newRow("linear up") << int(S::DetectUp) << int(S::LinearDetect) << 2 << QRect(100, 0, 60, 100);
+    QTest::newRow("linear right") << int(S::DetectRight) << int(S::LinearDetect) << 1
+                                  << QRect(159, 100, 50, 40);
+    QTest::newRow("linear down") << int(S::DetectDown) << int(S::LinearDetect) << 3
+                                 << QRect(100, 139, 60, 150);
+    QTest::newRow("radial left") << int(S::DetectLeft) << int(S::RadialDetect) << 1 << QRect(45, 1, 50, 479);
+    QTest::newRow("radial up") << int(S::DetectUp) << int(S::RadialDetect) << 1 << QRect(1, 45, 798, 50);
+    QTest::newRow("radial right") << int(S::DetectRight) << int(S::RadialDetect) << 2
+                                  << QRect(164, 1, 100, 479);
+    QTest::newRow("radial down") << int(S::DetectDown) << int(S::RadialDetect) << 1 << QRect(1, 144, 798, 50);
+    QTest::newRow("none") << int(S::DetectDown) << int(S::NoDetect) << 1 << QRect(-1, -1, 801, 481);
 }
 
-void TestNavigation::init()
+void TestNavigation::strips()
 {
-    m_window->triggerHome();
-    m_window->findChild<CToolBox*>()->setOpenPage(-1);
+    QFETCH(int, direction);
+    QFETCH(int, type);
+    QFETCH(int, step);
+    QWidget root;
+    root.resize(800, 460);
+    auto* widget = new CPushButton(&root);
+    widget->setGeometry(100, 100, 60, 40);
+    const Search search(&root);
+    QTEST(search.getDetectRect(widget, step, Search::DetectDirection(direction), Search::DetectType(type)),
+        "strip");
 }
 
 void TestNavigation::search_data()
@@ -260,113 +292,68 @@ void TestNavigation::dialogControlsAreReached()
             before->setArrowKeyFocus(false);
         button->setArrowKeyFocus(true);
     };
-    // The real keys, from every control that has been reached; once for each control to start from.
-    QHash<CPushButton*, QSet<CPushButton*>> ways;
+    Ways ways;
     for (CPushButton* from : buttons) {
         for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down}) {
             mark(from);
             QTest::keyClick(dialog.get(), key);
             QVERIFY(dialog->markedButton());
-            ways[from].insert(dialog->markedButton());
+            ways[from] << dialog->markedButton();
         }
     }
-    QStringList missed;
-    for (CPushButton* first : buttons) {
-        QSet<CPushButton*> reached{first};
-        QList<CPushButton*> open{first};
-        while (!open.isEmpty()) {
-            for (CPushButton* next : ways.value(open.takeLast())) {
-                if (!reached.contains(next)) {
-                    reached.insert(next);
-                    open << next;
-                }
-            }
-        }
-        for (CPushButton* button : buttons) {
-            if (!reached.contains(button))
-                missed << nameOf(button) + QStringLiteral(" from ") + nameOf(first);
-        }
-    }
-    QVERIFY2(missed.isEmpty(), qPrintable(QStringList(missed.mid(0, 8)).join(QLatin1String("; "))));
-    for (CPushButton* button : buttons) {
-        button->setArrowKeyFocus(false);
-        QVERIFY2(changedByMarker(button) >= button->width() + button->height(), qPrintable(nameOf(button)));
-    }
+    QCOMPARE(unreached(ways), QString());
+    QCOMPARE(faintMarkers(buttons), QString());
 }
 
-void TestNavigation::markerIsPlain_data()
+void TestNavigation::everyControlIsReached_data()
 {
+    QTest::addColumn<int>("toolPage"); // open page of the tool box, -1 for none
     QTest::addColumn<int>("utility");
-    QTest::addColumn<int>("toolPage");
-    QTest::newRow("home, utilities") << int(UTILITY_ID_BEGIN) << 0;
-    QTest::newRow("home, settings") << int(UTILITY_ID_BEGIN) << 1;
-    QTest::newRow("home, files") << int(UTILITY_ID_BEGIN) << 2;
-    QTest::newRow("advanced") << int(UTILITY_ID_ADVTOOL) << -1;
-    QTest::newRow("settings") << int(UTILITY_ID_SETTINGS) << -1;
-    QTest::newRow("more settings") << int(UTILITY_ID_SETTING_MORE) << -1;
-    QTest::newRow("about") << int(UTILITY_ID_ABOUT) << -1;
-    QTest::newRow("backlight") << int(UTILITY_ID_BACKLIGHT) << -1;
-    QTest::newRow("ip tools") << int(UTILITY_ID_IP_TOOLS) << -1;
+    for (int page = -1; page < 3; ++page)
+        QTest::addRow("home, tool box page %d", page) << page << int(UTILITY_ID_BEGIN);
+    const struct
+    {
+        const char* name;
+        int id;
+    } pages[] = {
+        {"advanced", UTILITY_ID_ADVTOOL},
+        {"settings", UTILITY_ID_SETTINGS},
+        {"more settings", UTILITY_ID_SETTING_MORE},
+        {"about", UTILITY_ID_ABOUT},
+        {"backlight", UTILITY_ID_BACKLIGHT},
+        {"ip tools", UTILITY_ID_IP_TOOLS},
+    };
+    for (const auto& page : pages) {
+        for (int tool = -1; tool < 3; ++tool)
+            QTest::addRow("%s, tool box page %d", page.name, tool) << tool << page.id;
+    }
 }
 
-void TestNavigation::markerIsPlain()
+void TestNavigation::everyControlIsReached()
 {
-    QFETCH(int, utility);
     QFETCH(int, toolPage);
+    QFETCH(int, utility);
     if (utility != UTILITY_ID_BEGIN) {
         const int before = touchable(m_window.get()).size();
         m_window->changeCurrentUtil(utility);
         QTRY_VERIFY(touchable(m_window.get()).size() > before + 2); // Home, Close and the page's own
     }
-    m_window->findChild<CToolBox*>()->setOpenPage(toolPage);
-    QStringList faint;
-    for (CPushButton* button : touchable(m_window.get())) {
-        // A frame of one pixel all around would be twice that.
-        if (changedByMarker(button) < button->width() + button->height())
-            faint << QStringLiteral("%1 (%2 pixels)").arg(nameOf(button)).arg(changedByMarker(button));
+    toolBox()->setOpenPage(toolPage);
+
+    const Search search(m_window.get());
+    const QList<CPushButton*> buttons = touchable(m_window.get());
+    Ways ways;
+    for (CPushButton* from : buttons) {
+        for (const auto direction :
+            {Search::DetectLeft, Search::DetectUp, Search::DetectRight, Search::DetectDown}) {
+            QWidget* next = search.detect(from, direction, Search::LinearDetect);
+            if (!next)
+                next = search.detect(from, direction, Search::RadialDetect);
+            ways[from] << qobject_cast<CPushButton*>(next);
+        }
     }
-    QVERIFY2(faint.isEmpty(), qPrintable(faint.join(QLatin1String("; "))));
-}
-
-void TestNavigation::enterTouchesOnce()
-{
-    press(Qt::Key_Down);
-    CPushButton* header = marked();
-    QVERIFY(header);
-    QSignalSpy clicked(header, &QAbstractButton::clicked);
-    press(Qt::Key_Return);
-    QTRY_COMPARE(clicked.size(), 1);
-    QVERIFY(!header->isDown());
-    QCOMPARE(marked(), header); // stays where it was
-    press(Qt::Key_Return);
-    QTRY_COMPARE(clicked.size(), 2);
-}
-
-void TestNavigation::enterOnADisabledControl()
-{
-    press(Qt::Key_Down);
-    CPushButton* header = marked();
-    QVERIFY(header);
-    QSignalSpy clicked(header, &QAbstractButton::clicked);
-    header->setEnabled(false);
-    press(Qt::Key_Return);
-    QCoreApplication::processEvents();
-    header->setEnabled(true);
-    QVERIFY(!header->isDown());
-    QVERIFY(clicked.isEmpty());
-}
-
-void TestNavigation::markedControlGoes()
-{
-    auto* passing = new CPushButton(QStringLiteral("passing"), m_window.get());
-    passing->setGeometry(500, 200, 80, 40);
-    passing->show();
-    press(Qt::Key_Down);
-    QCOMPARE(marked(), passing);
-    delete passing;
-    press(Qt::Key_Return); // on nothing
-    press(Qt::Key_Right); // starts again at the first control
-    QVERIFY(marked());
+    QCOMPARE(unreached(ways), QString());
+    QCOMPARE(faintMarkers(buttons), QString());
 }
 
 QTEST_MAIN(TestNavigation)

@@ -5,7 +5,6 @@
 #include "systemsettingsmenu.h"
 #include "topbar.h"
 #include "widgets/keypad/keypaddialog.h"
-#include "widgets/toolbox/toolbox.h"
 
 #include <QPointer>
 #include <QWindow>
@@ -21,7 +20,7 @@ class TestSwitching : public QObject, private CDrivenWindow
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { open(); }
     void init() { reset(); }
 
     void calibrationNeedsConsent();
@@ -39,15 +38,6 @@ private slots:
     void switchOverlay();
     void missingLibraryShowsTheLoadersText();
 };
-
-void TestSwitching::initTestCase()
-{
-    m_window = std::make_unique<CMainWindow>(nullptr);
-    m_window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
-    m_window->move(0, 0);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-}
 
 void TestSwitching::calibrationNeedsConsent()
 {
@@ -68,22 +58,21 @@ void TestSwitching::calibrationGivesTheInputBack()
     CBoxAnswer consent("ok");
     m_window->changeCurrentUtil(UTILITY_ID_SCREEN);
     QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
-    QTRY_COMPARE(region(), QRect(0, 0, 800, 480));
+    QTRY_COMPARE(region(), WHOLE_SCREEN);
     // A reported failure can be answered meanwhile.
-    QFile indicator(QStringLiteral("/tmp/.sysfail_indicator"));
-    QVERIFY(indicator.open(QIODevice::WriteOnly));
+    writeFile(FAILURE_MARK);
     CWithDialog failure([this](CDialog* dialog) {
         QCOMPARE(region(), QRect());
         dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
     });
     QVERIFY(QMetaObject::invokeMethod(m_window.get(), "selftestPopup"));
     QVERIFY(failure.isDone());
-    QCOMPARE(region(), QRect(0, 0, 800, 480));
+    QCOMPARE(region(), WHOLE_SCREEN);
     m_window->triggerHome();
     QCOMPARE(region(), QRect());
 
-    QFile refuse(QStringLiteral("/tmp/fixture-refuses")); // the library stays loaded, so it is the same one
-    QVERIFY(refuse.open(QIODevice::WriteOnly));
+    const QString refusal = QStringLiteral("/tmp/fixture-refuses");
+    writeFile(refusal); // the library stays loaded, so it is the same one
     CBoxAnswer again("ok");
     m_window->changeCurrentUtil(UTILITY_ID_SCREEN);
     CBoxAnswer failed("ok");
@@ -92,7 +81,7 @@ void TestSwitching::calibrationGivesTheInputBack()
     QCOMPARE(region(), QRect());
     QVERIFY(
         pluginCalls().indexOf(QStringLiteral("refused")) < pluginCalls().lastIndexOf(QStringLiteral("stop")));
-    QVERIFY(refuse.remove());
+    QVERIFY(QFile::remove(refusal));
     QFile::remove(PLUGIN_DIR + library);
 }
 
@@ -176,7 +165,7 @@ void TestSwitching::browserLocksInputForAWhile()
 {
     installFixture("libfixture_recorder.so", QStringLiteral("libwebbrowser.so"));
     m_window->changeCurrentUtil(UTILITY_ID_BROWSER);
-    QCOMPARE(region(), QRect(0, 0, 800, 480));
+    QCOMPARE(region(), WHOLE_SCREEN);
     QTRY_COMPARE_WITH_TIMEOUT(region(), QRect(), 5000);
 }
 

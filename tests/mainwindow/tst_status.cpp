@@ -1,0 +1,187 @@
+#include "drivenwindow.h"
+#include "fakedesktop.h"
+#include "sigtransfer.h"
+#include "widgets/label/label.h"
+
+#include <functional>
+
+#include "boxanswer.h"
+#include "withdialog.h"
+
+namespace {
+
+constexpr int FAILURE_PERIOD = 5000; // ms
+
+} // namespace
+
+/** What comes up by itself: information pages, reported failures, and the end of the backlight's time. */
+class TestStatus : public QObject, private CDrivenWindow
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { open(); }
+    void init() { reset(); }
+    void cleanup() { QCOMPARE(region(), QRect()); }
+
+    void failureDismissedComesBack();
+    void pagesFollowWhileOpen();
+    void storagePageOverTestApplication();
+    void pageOpenBeforeTheTestApplication();
+    void testApplicationGoesWhileItsPageIsOpen();
+    void touchStartsTheBacklightTime(); // before a time has been taken over
+    void changedBacklightTimeIsTakenOver();
+
+private:
+    int running(int interval) const
+    {
+        int found = 0;
+        for (const auto* timer : m_window->findChildren<QTimer*>())
+            found += timer->isActive() && timer->interval() == interval;
+        return found;
+    }
+};
+
+void TestStatus::failureDismissedComesBack()
+{
+    writeFile(FAILURE_MARK);
+    int polling = 1;
+    CWithDialog dismissed([this, &polling](CDialog* dialog) {
+        polling = running(FAILURE_PERIOD);
+        dialog->reject();
+    });
+    QVERIFY(QMetaObject::invokeMethod(m_window.get(), "selftestPopup"));
+    QVERIFY(dismissed.isDone());
+    QCOMPARE(polling, 0); // no second box over the first
+    QCOMPARE(running(FAILURE_PERIOD), 1);
+    QVERIFY(QFile::exists(FAILURE_MARK));
+    CBoxAnswer answered("ok");
+    QVERIFY(QMetaObject::invokeMethod(m_window.get(), "selftestPopup"));
+    QCOMPARE(answered.title(), QStringLiteral("System Error"));
+    QVERIFY(answered.text().startsWith(QStringLiteral("Error Code: ")));
+    QVERIFY(answered.text().endsWith(QStringLiteral("Please contact customer service!")));
+    QVERIFY(!QFile::exists(FAILURE_MARK));
+}
+
+void TestStatus::pagesFollowWhileOpen()
+{
+    const auto textOf = [](CDialog* page, const char* name) {
+        const auto* label = page->findChild<CLabel*>(QLatin1String(name));
+        return label ? label->text() : QString();
+    };
+    const auto followed = [this](const char* slot, QGenericArgument status,
+                              const std::function<QStringList(CDialog*)>& texts) {
+        QStringList before;
+        QStringList after;
+        CWithDialog page([&](CDialog* dialog) {
+            before = texts(dialog);
+            QMetaObject::invokeMethod(m_window.get(), slot, status);
+            QTRY_VERIFY((after = texts(dialog)) != before); // the figures are measured aside
+            dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+        });
+        if (qstrcmp(slot, "updatePowerStatus") == 0)
+            emit g_pSigTransfer->queryPowerInfo();
+        else
+            emit g_pSigTransfer->queryStorageInfo();
+        return page.isDone() && before != after;
+    };
+    PowerStatus battery;
+    battery.bIsBat = true;
+    battery.fullCap = 100;
+    battery.remainCap = 37;
+    QVERIFY(followed("updatePowerStatus", Q_ARG(PowerStatus, battery), [&](CDialog* page) {
+        return QStringList{textOf(page, "state"), textOf(page, "capacity"), textOf(page, "time")};
+    }));
+    StorageStatus mounted;
+    mounted.bIsUSBDisk = mounted.bIsPlugged = mounted.bIsMounted = mounted.bIsUSBDPlugged = true;
+    mounted.USBDUsed = mounted.USBDAvail = 1000;
+    QVERIFY(followed("updateStorageStatus", Q_ARG(StorageStatus, mounted),
+        [&](CDialog* page) { return QStringList{textOf(page, "usbd")}; }));
+    // Back on mains, for the tests that follow.
+    QVERIFY(
+        QMetaObject::invokeMethod(m_window.get(), "updatePowerStatus", Q_ARG(PowerStatus, PowerStatus())));
+}
+
+void TestStatus::storagePageOverTestApplication()
+{
+    m_window->setWindowVisible(false);
+    emit g_pSigTransfer->queryPowerInfo(); // noted only, and never shown
+    m_window->inquireSystemState();
+    QVERIFY(!QApplication::activeModalWidget());
+    emit g_pSigTransfer->queryStorageInfo();
+    QVERIFY(!QApplication::activeModalWidget());
+    CWithDialog storage([](CDialog* dialog) {
+        QCOMPARE(dialog->metaObject()->className(), "CStorageMonitor");
+        QCOMPARE(region(), QRect());
+        dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+    });
+    m_window->inquireSystemState();
+    QVERIFY(storage.isDone());
+    QVERIFY(!m_window->isNeedInteractive()); // the test application has the screen again
+    QCOMPARE(region(), TEST_APP_AREA);
+    m_window->setWindowVisible(true);
+    QCOMPARE(region(), QRect());
+}
+
+void TestStatus::pageOpenBeforeTheTestApplication()
+{
+    CWithDialog page([this](CDialog* dialog) {
+        m_window->setWindowVisible(false);
+        emit g_pSigTransfer->queryStorageInfo(); // noted, and not served before the shell comes back
+        m_window->setWindowVisible(true);
+        dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+    });
+    emit g_pSigTransfer->queryPowerInfo();
+    QVERIFY(page.isDone());
+    QVERIFY(m_window->isNeedInteractive()); // closing it did not send the shell away
+    QCOMPARE(region(), QRect());
+}
+
+void TestStatus::testApplicationGoesWhileItsPageIsOpen()
+{
+    m_window->setWindowVisible(false);
+    emit g_pSigTransfer->queryStorageInfo();
+    CWithDialog page([this](CDialog* dialog) {
+        m_window->setWindowVisible(true);
+        dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+    });
+    m_window->inquireSystemState();
+    QVERIFY(page.isDone());
+    QVERIFY(m_window->isNeedInteractive());
+    QCOMPARE(region(), QRect());
+    QVERIFY(m_window->findChild<CFakeDesktop*>()->isHidden());
+}
+
+void TestStatus::touchStartsTheBacklightTime()
+{
+    setSetting(CSystemSettings::ACBacklightTime, 900);
+    setSetting(CSystemSettings::ACBacklightChanged, false); // the time has not been taken over yet
+    setSetting(CSystemSettings::ACBacklightEnabled, false);
+    QTest::mouseClick(headers().constFirst(), Qt::LeftButton);
+    QCOMPARE(running(900000), 0);
+    setSetting(CSystemSettings::ACBacklightEnabled, true);
+    QTest::mouseClick(headers().constFirst(), Qt::LeftButton); // on a control, not the window itself
+    QCOMPARE(running(900000), 1);
+    setSetting(CSystemSettings::ACBacklightEnabled, false);
+    m_window->checkSystemSettings();
+    QCOMPARE(running(900000), 0);
+}
+
+void TestStatus::changedBacklightTimeIsTakenOver()
+{
+    setSetting(CSystemSettings::ACBacklightEnabled, true);
+    setSetting(CSystemSettings::ACBacklightTime, 77);
+    setSetting(CSystemSettings::ACBacklightChanged, true);
+    m_window->checkSystemSettings();
+    QCOMPARE(running(77000), 1);
+    QVERIFY(!CSystemSettings::globalSettings()->getAttribute(CSystemSettings::ACBacklightChanged).toBool());
+    setSetting(CSystemSettings::ACBacklightTime, 88); // without its flag
+    m_window->checkSystemSettings();
+    QCOMPARE(running(88000), 0);
+    setSetting(CSystemSettings::ACBacklightEnabled, false);
+    m_window->checkSystemSettings();
+    QCOMPARE(running(77000), 0);
+}
+
+QTEST_MAIN(TestStatus)
+#include "tst_status.moc"
