@@ -160,6 +160,11 @@ void TestAppSwitcher::tabRules()
         checked = step.call == Step::Checked ? step.value : checked;
         focus = step.call == Step::Focus ? step.value : focus;
     }
+    if (tab.status() == Res::AppFocus) { // this look is a marker itself; the frame does not come on top
+        CAppTab unmarked;
+        unmarked.setStatus(Res::AppFocus);
+        QCOMPARE(rendered(tab), rendered(unmarked));
+    }
     QTEST(int(tab.status()), "status");
     QTEST(tab.isActived(), "actived");
     QCOMPARE(tab.isChecked(), checked);

@@ -116,10 +116,10 @@ void CAppTab::setArrowKeyFocus(bool on)
     CWidget::setArrowKeyFocus(on);
 }
 
-void CAppTab::paintEvent(QPaintEvent* event)
+void CAppTab::paintEvent(QPaintEvent*)
 {
-    CWidget::paintEvent(event);
     QPainter painter(this);
+    paintFrame(painter);
     const bool isRemote = bIsModuleExists && !isLocalApp();
     const QString number = QString::number(isRemote ? unsigned(m_sessionNum) : m_appIndex);
     painter.setFont(CWidgetStyle::getFont(CWidgetStyle::FontTabIndex));

@@ -92,8 +92,13 @@ void CWidget::updateWidgetStyle()
 void CWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    m_frame.paint(painter, rect());
+    paintFrame(painter);
     paintFocusMarker(painter);
+}
+
+void CWidget::paintFrame(QPainter& painter) const
+{
+    m_frame.paint(painter, rect());
 }
 
 void CWidget::paintFocusMarker(QPainter& painter) const

@@ -65,9 +65,14 @@ public slots:
 
 protected:
     void setTypeCode(int code) { m_typeCode = code; }
-    /** Background, then border; a derived class that paints more calls this first. */
+    /** Background, border and focus marker; a derived class that paints more calls this, or paintFrame(),
+     * first.
+     */
     void paintEvent(QPaintEvent* event) override;
-    /** Draws the focus marker when it is set; called by the base paint, and by classes that paint over it. */
+    /** Background and border alone: for a class that puts the marker over its own painting, or has its own.
+     */
+    void paintFrame(QPainter& painter) const;
+    /** Draws the focus marker when it is set. */
     void paintFocusMarker(QPainter& painter) const;
 
 private:
