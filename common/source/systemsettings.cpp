@@ -70,16 +70,21 @@ CSystemSettings::CSystemSettings(QObject* parent)
     attachGlobalSetting();
     creatAttrStrMap();
 
-    // The instance outlives the event loop, which else writes the file after each burst of changes.
-    if (QCoreApplication::instance())
+    // The instance outlives the event loop, which else writes the file after each burst of changes. The first
+    // write tells at once whether there can be any.
+    if (QCoreApplication::instance()) {
         connect(
             QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &CSystemSettings::storeNow);
+        QMetaObject::invokeMethod(this, &CSystemSettings::storeNow, Qt::QueuedConnection);
+    }
 }
 
 void CSystemSettings::storeNow()
 {
     const QMutexLocker locker(&m_storeMutex);
     m_settings.sync();
+    if (m_settings.status() == QSettings::AccessError)
+        qWarning("[%s]: Settings can not be stored.", qPrintable(m_settings.fileName()));
 }
 
 CSystemSettings::~CSystemSettings()

@@ -91,6 +91,7 @@ private slots:
     void unusableProfiles();
     void valuesPersist();
     void unchangedValuesAreNotWritten();
+    void unwritableStoreIsReported();
     void globalInstance(); // last: it stays, and shares the native file
 };
 
@@ -399,6 +400,17 @@ void tst_SystemSettings::unchangedValuesAreNotWritten()
         QCoreApplication::processEvents();
     }
     QCOMPARE(fileNumber(), rewritten);
+}
+
+void tst_SystemSettings::unwritableStoreIsReported()
+{
+    QVERIFY(QDir().mkpath(nativeFile()));
+    const auto cleared = qScopeGuard([] { QDir().rmdir(nativeFile()); });
+    QTest::ignoreMessage(QtWarningMsg, qPrintable("[%1]: Settings can not be stored."_s.arg(nativeFile())));
+    Settings settings;
+    settings.setAttribute(S::FileNamePrefix, "here all the same"_s);
+    QCoreApplication::processEvents();
+    QCOMPARE(settings.getAttribute(S::FileNamePrefix), QVariant("here all the same"_s));
 }
 
 void tst_SystemSettings::globalInstance()
