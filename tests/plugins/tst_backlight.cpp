@@ -180,7 +180,11 @@ void TestBacklight::changesAreWritten()
     CPluginHost host(PLUGIN_FILE);
     open(host);
     Group group(host.page(), own);
+    // Nobody has written the block yet; the first change brings all settings of its source.
+    block.setting->screen_setting = {};
     QVector<int> expected = block.fields();
+    expected[own.firstField + 1] = 60;
+    expected[own.firstField + 2] = 50;
 
     const auto check = [&](S::SystemAttribute attribute, int value, int field) {
         expected[own.firstField + field] = value;
@@ -204,23 +208,23 @@ void TestBacklight::changesAreWritten()
 
     QTest::mouseClick(group.enabled, Qt::LeftButton);
     check(own.enabled, 1, 0);
-    QCOMPARE(announced(), QVector<int>({own.enabled, own.changed}));
+    QCOMPARE(announced(), QVector<int>({own.enabled, own.time, own.brightness, own.changed}));
     QTest::mouseClick(group.enabled, Qt::LeftButton);
     check(own.enabled, 0, 0);
-    QCOMPARE(announced(), QVector<int>({own.enabled, own.changed}));
+    QCOMPARE(announced(), QVector<int>({own.enabled, own.time, own.brightness, own.changed}));
 
     QVERIFY(group.choose(QStringLiteral("30 s")) >= 0);
     check(own.time, 30, 1);
-    QCOMPARE(announced(), QVector<int>({own.time, own.changed}));
+    QCOMPARE(announced(), QVector<int>({own.time, own.enabled, own.brightness, own.changed}));
     QVERIFY(group.choose(QStringLiteral("10 min")) >= 0);
     check(own.time, 600, 1);
-    QCOMPARE(announced(), QVector<int>({own.time, own.changed}));
+    QCOMPARE(announced(), QVector<int>({own.time, own.enabled, own.brightness, own.changed}));
     QVERIFY(group.choose(QStringLiteral("10 min")) >= 0); // no change
     QCOMPARE(announced(), QVector<int>());
 
     QTest::mouseClick(group.brighter, Qt::LeftButton);
     check(own.brightness, 55, 2);
-    QCOMPARE(announced(), QVector<int>({own.brightness, own.changed}));
+    QCOMPARE(announced(), QVector<int>({own.brightness, own.enabled, own.time, own.changed}));
 }
 
 void TestBacklight::brightnessSteps_data()

@@ -119,6 +119,13 @@ void CBacklightGroup::write(CSystemSettings::SystemAttribute attribute, const QV
     if (stored.convert(value.userType()) && stored == value)
         return;
     store()->setAttribute(attribute, value, true);
+    // Defaults do not reach the block. Other processes must not find a new value beside fields that nobody
+    // has written: a backlight that goes off after 0 s.
+    for (const CSystemSettings::SystemAttribute other :
+        {m_source.enabled, m_source.time, m_source.brightness}) {
+        if (other != attribute)
+            store()->setAttribute(other, store()->getAttribute(other), true);
+    }
     store()->setAttribute(m_source.changed, true, true);
 }
 

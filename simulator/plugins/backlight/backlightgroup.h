@@ -15,8 +15,9 @@ class CPushButton;
  * The backlight settings of one power source: whether the backlight goes off, after which time, and how
  * bright it is.
  *
- * A change is written to the settings store and to the block that other processes read, and marked in the
- * source's "changed" attribute, upon which the shell takes it over. A change made elsewhere is shown at once.
+ * A change is written to the settings store and, with the other settings of the source, to the block that
+ * other processes read, and marked in the source's "changed" attribute, upon which the shell takes it over. A
+ * change made elsewhere is shown at once.
  */
 class CBacklightGroup : public CWidget
 {
