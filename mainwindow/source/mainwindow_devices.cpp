@@ -138,15 +138,18 @@ void CMainWindow::showBTInfo()
 
 void CMainWindow::inquireSystemState()
 {
+    const bool isPower = m_pInqSysStatCode == INQUIRE_SYS_STAT_POWER;
+    if (m_isInquiryServed || (!isPower && m_pInqSysStatCode != INQUIRE_SYS_STAT_USB_DISK))
+        return;
     m_isInquiryServed = true;
-    if (m_pInqSysStatCode == INQUIRE_SYS_STAT_POWER) {
-        setFakeDesktopVisible(true);
+    setFakeDesktopVisible(true);
+    if (isPower)
         execPowerPage();
-    } else if (m_pInqSysStatCode == INQUIRE_SYS_STAT_USB_DISK) {
-        setFakeDesktopVisible(true);
+    else
         execStoragePage();
-    }
-    m_isInquiryServed = false;
+    // Not ended by the page's closing when the page was up already, or when another page opened over it: the
+    // fake desktop must not stay.
+    endInquiry();
 }
 
 template <typename Page> Page* CMainWindow::makeInfoPage(int windowID)

@@ -29,6 +29,7 @@ private slots:
     void storagePageOverTestApplication();
     void pageOpenBeforeTheTestApplication();
     void testApplicationGoesWhileItsPageIsOpen();
+    void fakeDesktopGoesWithItsPage();
     void touchStartsTheBacklightTime(); // before a time has been taken over
     void changedBacklightTimeIsTakenOver();
 
@@ -150,6 +151,39 @@ void TestStatus::testApplicationGoesWhileItsPageIsOpen()
     QVERIFY(m_window->isNeedInteractive());
     QCOMPARE(region(), QRect());
     QVERIFY(m_window->findChild<CFakeDesktop*>()->isHidden());
+}
+
+void TestStatus::fakeDesktopGoesWithItsPage()
+{
+    const auto* desktop = m_window->findChild<CFakeDesktop*>();
+    const auto askFromTestApplication = [this] {
+        m_window->setWindowVisible(false);
+        emit g_pSigTransfer->queryStorageInfo();
+        m_window->setWindowVisible(true);
+    };
+    const auto close
+        = [](CDialog* dialog) { dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click(); };
+    CWithDialog openAlready([&](CDialog* dialog) {
+        askFromTestApplication();
+        m_window->inquireSystemState();
+        QVERIFY(desktop->isHidden());
+        close(dialog);
+    });
+    emit g_pSigTransfer->queryStorageInfo();
+    QVERIFY(openAlready.isDone());
+
+    askFromTestApplication();
+    CWithDialog anotherOnTop([&](CDialog* dialog) {
+        QVERIFY(desktop->isVisible());
+        CWithDialog power(close);
+        emit g_pSigTransfer->queryPowerInfo();
+        QVERIFY(power.isDone());
+        close(dialog);
+    });
+    m_window->inquireSystemState();
+    QVERIFY(anotherOnTop.isDone());
+    QVERIFY(desktop->isHidden());
+    QVERIFY(m_window->isNeedInteractive());
 }
 
 void TestStatus::touchStartsTheBacklightTime()
