@@ -9,9 +9,7 @@
 #include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QFontMetrics>
-#include <QPainter>
 #include <QSignalSpy>
-#include <QVBoxLayout>
 #include <QtTest>
 
 #include <functional>
@@ -44,17 +42,6 @@ public:
     int paints = 0;
 };
 
-/** Counts the tree calls that reach it. */
-class CProbe : public CWidget
-{
-public:
-    using CWidget::CWidget;
-    void translate() override { ++translated; }
-    void updateWidgetStyle() override { ++restyled; }
-    int translated = 0;
-    int restyled = 0;
-};
-
 } // namespace
 
 Q_DECLARE_METATYPE(MakeButton)
@@ -74,12 +61,6 @@ private slots:
             MakeButton make;
         } controls[] = {
             {"button", [](QWidget* parent) { return new CPushButton(QStringLiteral("OK"), parent); }},
-            {"filled button",
-                [](QWidget* parent) {
-                    auto* button = new CPushButton(QStringLiteral("OK"), parent);
-                    button->setBackgroundColor(Qt::gray);
-                    return button;
-                }},
             {"picture button",
                 [](QWidget* parent) {
                     auto* button = new CPushButton(parent);
@@ -87,24 +68,10 @@ private slots:
                     return button;
                 }},
             {"check box", [](QWidget* parent) { return new CCheckBox(QStringLiteral("On"), parent); }},
-            {"check box on a tile",
-                [](QWidget* parent) {
-                    auto* box = new CCheckBox(QStringLiteral("On"), parent);
-                    box->setSkinEnabled(true);
-                    return box;
-                }},
             {"status icon",
                 [](QWidget* parent) {
                     auto* icon = new CStatusIcon(parent);
                     icon->setIcon(colored(Qt::darkGreen));
-                    return icon;
-                }},
-            {"status icon with pictures",
-                [](QWidget* parent) {
-                    auto* icon = new CStatusIcon(parent);
-                    icon->setIcon(colored(Qt::darkGreen));
-                    icon->setExtraAttribute(CPushButton::PressBackground, colored(Qt::darkRed));
-                    icon->setExtraAttribute(CPushButton::SelectBackground, colored(Qt::darkBlue));
                     return icon;
                 }},
             {"tool box header",
@@ -163,8 +130,6 @@ private slots:
         QTest::addColumn<QColor>("ground");
         QTest::newRow("white") << QColor(Qt::white);
         QTest::newRow("top bar") << QColor(181, 199, 239);
-        QTest::newRow("gray") << QColor(Qt::gray);
-        QTest::newRow("accent") << CWidgetStyle::getColor(CWidgetStyle::ColorAccent);
         QTest::newRow("screen") << CWidgetStyle::getColor(CWidgetStyle::ColorScreen);
         QTest::newRow("black") << QColor(Qt::black);
     }
@@ -182,18 +147,6 @@ private slots:
             best = std::max(best, CStylePainter::contrast(image.pixelColor(x, 30), ground));
         QVERIFY2(best >= 3.0, qPrintable(QString::number(best)));
         QCOMPARE(image.pixelColor(40, 30), ground); // only a frame
-    }
-
-    void touchTargetsAreLargeEnough()
-    {
-        QWidget parent;
-        const QList<QWidget*> controls
-            = {new CPushButton(QStringLiteral("x"), &parent), new CCheckBox(&parent),
-                new CToolBoxButton(CToolBoxButton::Item, QString(), QString(), 1, &parent),
-                new CToolBoxButton(CToolBoxButton::PageHeader, QString(), QString(), 1, &parent),
-                new CEntryItem(QString(), 1, QString(), &parent)};
-        for (const QWidget* control : controls)
-            QVERIFY(control->sizeHint().width() >= 40 && control->sizeHint().height() >= 40);
     }
 
     void pressIsOnTheScreenAtOnce()
@@ -243,44 +196,6 @@ private slots:
         QCOMPARE(labelPaints.paints + buttonPaints.paints + iconPaints.paints + windowPaints.paints, 0);
         icon->setIcon(colored(Qt::blue));
         QTRY_VERIFY(iconPaints.paints > 0);
-    }
-
-    void extraAttributesReplaceTheLook()
-    {
-        CPushButton button;
-        button.resize(40, 40);
-        const auto middle = [&button] { return button.grab().toImage().pixelColor(20, 10); };
-        button.setExtraAttribute(CPushButton::ReleaseBackground, colored(Qt::red));
-        button.setExtraAttribute(CPushButton::PressBackground, colored(Qt::blue));
-        button.setExtraAttribute(CPushButton::SelectBackground, colored(Qt::green));
-        QCOMPARE(middle(), QColor(Qt::red));
-        button.setArrowKeyFocus(true);
-        QCOMPARE(middle(), QColor(Qt::green));
-        button.setDown(true);
-        QCOMPARE(middle(), QColor(Qt::blue));
-        button.setArrowKeyFocus(false);
-        button.setExtraAttribute(CPushButton::PressBackground, CWidgetStyle::ColorAlert); // a colour code
-        QCOMPARE(middle(), CWidgetStyle::getColor(CWidgetStyle::ColorAlert));
-        button.setExtraAttribute(CPushButton::PressBackground, QVariant());
-        button.setDown(false);
-        button.setExtraAttribute(CPushButton::ReleaseBackground, QVariant());
-        QCOMPARE(middle(), CWidgetStyle::getColor(CWidgetStyle::ColorButton));
-    }
-
-    void themePicturesAreDrawnAtTheButtonsSize()
-    {
-        // Round corners of one size, whatever the button's: the picture is not stretched.
-        CWidget window;
-        window.resize(700, 200);
-        auto* button = new CPushButton(&window);
-        button->setGeometry(0, 0, 600, 150);
-        button->setExtraAttribute(
-            CPushButton::ReleaseBackground, CWidgetStyle::getButtonPixmap(CWidgetStyle::ButtonReleased));
-        auto* plain = new CPushButton(&window);
-        plain->setGeometry(0, 0, 600, 150);
-        plain->hide();
-        const QImage withPicture = button->grab().toImage();
-        QCOMPARE(withPicture, plain->grab().toImage());
     }
 
     void toolBoxOpensOnePage()
@@ -337,25 +252,6 @@ private slots:
         QCOMPARE(chosen.count(), 2);
     }
 
-    void toolBoxIgnoresPlacesItDoesNotHave()
-    {
-        CToolBox box;
-        fill(box);
-        QCOMPARE(box.addItem(2, QString(), QStringLiteral("x"), 1), -1);
-        QCOMPARE(box.addItem(-1, QString(), QStringLiteral("x"), 1), -1);
-        box.setItemText(0, 4, QStringLiteral("x"));
-        box.setItemText(9, 0, QStringLiteral("x"));
-        box.setPageText(-1, QStringLiteral("x"));
-        QCOMPARE(box.itemCount(0), 2);
-        QCOMPARE(box.itemText(0, 1), QStringLiteral("Advanced"));
-        box.setItemText(0, 1, QStringLiteral("Erweitert"));
-        box.setPageText(1, QStringLiteral("Dateien"));
-        QCOMPARE(box.itemText(0, 1), QStringLiteral("Erweitert"));
-        QCOMPARE(box.pageText(1), QStringLiteral("Dateien"));
-        box.setOpenPage(7);
-        QCOMPARE(box.openPage(), -1);
-    }
-
     void entryGridPlacesAndTells()
     {
         CEntryWidget grid;
@@ -390,15 +286,11 @@ private slots:
         QTest::addColumn<bool>("wrap");
         QTest::addColumn<int>("lines");
         QTest::addColumn<bool>("elided");
-        QTest::newRow("short") << QStringLiteral("Power") << 1 << false << 1 << false;
         QTest::newRow("line feed") << QStringLiteral("Optical\nMeter") << 3 << false << 2 << false;
-        QTest::newRow("empty line kept") << QStringLiteral("a\n\nb") << 3 << false << 3 << false;
         QTest::newRow("German") << QStringLiteral("Bildschirmkalibrierung") << 1 << false << 1 << true;
         QTest::newRow("Russian wrapped")
             << QStringLiteral("Точный источник тактов") << 3 << true << 3 << false;
         QTest::newRow("too many lines") << QStringLiteral("a\nb\nc") << 2 << false << 2 << true;
-        QTest::newRow("one endless word") << QString(60, QLatin1Char('W')) << 2 << true << 2 << true;
-        QTest::newRow("no room for a line") << QStringLiteral("a\nb") << 0 << false << 1 << true;
     }
 
     void textLinesFit()
@@ -415,46 +307,6 @@ private slots:
         QCOMPARE(fitted.last().endsWith(QChar(0x2026)), elided);
         for (const QString& line : fitted)
             QVERIFY(QFontMetrics(font).horizontalAdvance(line) <= width);
-    }
-
-    void longTextsStayInside_data()
-    {
-        QTest::addColumn<int>("width");
-        QTest::newRow("roomy") << 300;
-        QTest::newRow("narrow") << 60;
-        QTest::newRow("very narrow") << 24;
-    }
-
-    void longTextsStayInside()
-    {
-        // Nothing may be drawn beside the rectangle that a text was given.
-        QFETCH(int, width);
-        QImage image(400, 60, QImage::Format_RGB32);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        painter.setFont(CWidgetStyle::getFont(CWidgetStyle::FontEntry));
-        CStylePainter::paintText(painter, QRect(40, 10, width, 40), Qt::AlignCenter,
-            QStringLiteral("Hintergrundbeleuchtung und Anzeige\nДополнительные настройки"), Qt::black, true,
-            true);
-        painter.end();
-        bool drawn = false;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                const bool ink = image.pixelColor(x, y) != QColor(Qt::white);
-                drawn = drawn || ink;
-                QVERIFY2(!ink || (x >= 39 && x <= 40 + width), qPrintable(QString::number(x)));
-            }
-        }
-        QVERIFY(drawn);
-    }
-
-    void labelHeightFollowsItsText()
-    {
-        CLabel label(QStringLiteral("one two three four five six seven"));
-        const int single = label.heightForWidth(60);
-        label.setWordWrap(true);
-        QVERIFY(label.heightForWidth(60) >= 3 * single);
-        QCOMPARE(label.heightForWidth(2000), single);
     }
 
     void checkBoxTogglesAndExclusiveOnesStay()
@@ -493,47 +345,6 @@ private slots:
         QCOMPARE(middle(), QColor(Qt::red));
         icon.setDown(true);
         QCOMPARE(middle(), QColor(Qt::blue));
-    }
-
-    void treeCallsReachEverything()
-    {
-        CWidget root;
-        auto* child = new CProbe(&root);
-        auto* plain = new QWidget(&root);
-        auto* behindPlain = new CProbe(new QWidget(plain));
-        auto* box = new CWidget(&root);
-        auto* nested = new CProbe(box);
-        root.translate();
-        root.updateWidgetStyle();
-        for (const CProbe* probe : {child, behindPlain, nested}) {
-            QCOMPARE(probe->translated, 1);
-            QCOMPARE(probe->restyled, 1);
-        }
-    }
-
-    void widgetDrawsItsBordersAndKeepsLayoutsOffThem()
-    {
-        CWidget widget;
-        widget.resize(100, 80);
-        widget.setBackgroundColor(Qt::black);
-        widget.setBorderColor(QColor(Qt::white));
-        widget.setBorderWidth(0, 1, 2, 3);
-        QCOMPARE(widget.innerRect(), QRect(0, 1, 98, 76));
-        const QImage image = widget.grab().toImage();
-        QCOMPARE(image.pixelColor(0, 40), QColor(Qt::black));
-        QCOMPARE(image.pixelColor(50, 0), QColor(Qt::white));
-        QCOMPARE(image.pixelColor(50, 1), QColor(Qt::black));
-        QCOMPARE(image.pixelColor(98, 40), QColor(Qt::white));
-        QCOMPARE(image.pixelColor(97, 40), QColor(Qt::black));
-        QCOMPARE(image.pixelColor(50, 77), QColor(Qt::white));
-        QCOMPARE(image.pixelColor(50, 76), QColor(Qt::black));
-
-        auto* layout = new QVBoxLayout(&widget);
-        layout->setContentsMargins(0, 0, 0, 0);
-        auto* content = new QWidget;
-        layout->addWidget(content);
-        layout->activate();
-        QCOMPARE(content->geometry(), widget.innerRect());
     }
 
 private:

@@ -76,17 +76,14 @@ private slots:
             QTest::newRow(name) << type << QString::fromLatin1(start) << maxLength
                                 << QString::fromLatin1(touched) << QString::fromLatin1(typed);
         };
-        row("appends", Pad::KeyPadText, "pro", 0, "keyb key- keye", "prob-e");
         row("shift for one letter", Pad::KeyPadText, "", 0, "shift keya keyb", "Ab");
         row("shift locked", Pad::KeyPadText, "", 0, "shift shift keya keyb shift keyc", "ABc");
         row("symbols and back", Pad::KeyPadText, "", 0, "page key7 key& key\\ page keyx", "7&\\x");
         row("corrections at the cursor", Pad::KeyPadText, "abc", 0,
             "left left backspace keyx right key, backspace key.", "xb.c");
-        row("clear", Pad::KeyPadText, "abc", 0, "clear keyz", "z");
         row("no more than the limit", Pad::KeyPadText, "abc", 4, "keyd keye backspace keyf keyg", "abcf");
         row("a longer text is cut", Pad::KeyPadText, "abcdef", 4, "backspace", "abc");
         row("number", Pad::KeyPadNumber, "5", 0, "key0 key- backspace key. key7", "50.7");
-        row("number pad on a text", Pad::KeyPadNumber, "ab", 0, "key1 left backspace", "a1");
         row("address", Pad::KeyPadAddress, "", 0, "keyf keye key8 key0 key: key: key1 key% keyl keyo",
             "fe80::1%lo");
         row("password", Pad::KeyPadPassword, "tiger", 8, "page key! key?", "tiger!?");
@@ -150,18 +147,6 @@ private slots:
         QCOMPARE(pad.markedButton()->objectName(), QStringLiteral("key;"));
     }
 
-    void enterOnNothingIsOk()
-    {
-        QString text = QStringLiteral("a");
-        withNextModal([](QWidget& pad) {
-            QTest::keyClicks(textOf(pad), QStringLiteral("b"));
-            QTest::keyClick(textOf(pad), Qt::Key_Escape); // ends nothing
-            QTest::keyClick(textOf(pad), Qt::Key_Return);
-        });
-        QVERIFY(Pad::accessKeyPad(nullptr, QStringLiteral("Name"), text, Pad::KeyPadText));
-        QCOMPARE(text, QStringLiteral("ab"));
-    }
-
     void onlyOkChangesTheText()
     {
         QString text = QStringLiteral("a");
@@ -211,48 +196,6 @@ private slots:
         QVERIFY(textOf(pad)->displayText() != QStringLiteral("tiger"));
         touch(pad, QStringLiteral("showPassword"));
         QCOMPARE(textOf(pad)->displayText(), QStringLiteral("tiger"));
-    }
-
-    void everyKeyCanBeTouched_data()
-    {
-        QTest::addColumn<int>("type");
-        QTest::newRow("text") << int(Pad::KeyPadText);
-        QTest::newRow("number") << int(Pad::KeyPadNumber);
-        QTest::newRow("address") << int(Pad::KeyPadAddress);
-        QTest::newRow("password") << int(Pad::KeyPadPassword);
-    }
-
-    void everyKeyCanBeTouched()
-    {
-        QFETCH(int, type);
-        const QString longTitle
-            = QStringLiteral("Maximale Anzahl gespeicherter Bildschirmfotos ").repeated(4);
-        CKeyPadDialog pad(longTitle, QStringLiteral("text").repeated(50), Pad::KeyPadType(type));
-        show(pad);
-        QVERIFY(QRect(0, 0, 800, 480).contains(pad.geometry()));
-        QString characters;
-        const int pages = key(pad, QStringLiteral("page")) ? 2 : 1;
-        for (int page = 0; page < pages; ++page) {
-            QList<QRect> taken = {textOf(pad)->geometry()};
-            for (const CPushButton* button : pad.findChildren<CPushButton*>()) {
-                if (!button->isVisible())
-                    continue;
-                const QRect place = button->geometry();
-                QVERIFY2(place.width() >= 40 && place.height() >= 40, qPrintable(button->objectName()));
-                QVERIFY2(pad.innerRect().contains(place), qPrintable(button->objectName()));
-                for (const QRect& other : qAsConst(taken))
-                    QVERIFY2(!other.intersects(place), qPrintable(button->objectName()));
-                taken << place;
-                if (button->objectName().startsWith(QLatin1String("key")))
-                    characters += button->objectName().at(3);
-            }
-            if (page + 1 < pages)
-                touch(pad, QStringLiteral("page"));
-        }
-        if (pages == 1)
-            return;
-        for (char character = ' '; character <= '~'; ++character) // upper case by shift
-            QVERIFY2(characters.contains(QChar::fromLatin1(character).toLower()), &character);
     }
 };
 

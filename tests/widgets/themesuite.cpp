@@ -1,9 +1,7 @@
 #include "suites.h"
 
-#include "widgets/widgetstyle/stylepainter.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -55,30 +53,12 @@ private slots:
         CWidgetStyle::setWidgetStyle(m_dir.filePath(QStringLiteral("absent.xml")));
     }
 
-    void builtInRegions()
-    {
-        QCOMPARE(CWidgetStyle::getScreenRegion(0), QRect(0, 0, 800, 480));
-        QCOMPARE(CWidgetStyle::getScreenRegion(1), QRect(0, 0, 800, 60));
-        QCOMPARE(CWidgetStyle::getScreenRegion(2), QRect(0, 60, 800, 400));
-        QCOMPARE(CWidgetStyle::getScreenRegion(3), QRect(0, 60, 160, 400));
-        QCOMPARE(CWidgetStyle::getScreenRegion(4), QRect(160, 60, 640, 400));
-        QCOMPARE(CWidgetStyle::getScreenRegion(7), QRect(0, 460, 800, 20));
-        QVERIFY(CWidgetStyle::getScreenRegion(5).isNull());
-        QVERIFY(CWidgetStyle::getScreenRegion(-1).isNull());
-        QVERIFY(CWidgetStyle::getScreenRegion(99).isNull());
-        QVERIFY(!CWidgetStyle::getColor(-1).isValid());
-        QVERIFY(!CWidgetStyle::getColor(CWidgetStyle::ColorCount).isValid());
-        QCOMPARE(CWidgetStyle::getEntryColor(77), CWidgetStyle::getEntryColor(1));
-        QCOMPARE(CWidgetStyle::getMetric(QStringLiteral("no such metric"), 17), 17);
-    }
-
     void fileThatIsNoThemeChangesNothing_data()
     {
         QTest::addColumn<QByteArray>("content");
         const QByteArray change = "<colors><color code=\"0\" value=\"#ff0000\"/></colors>";
         QTest::newRow("empty") << QByteArray();
         QTest::newRow("truncated") << themeFile(change).left(70);
-        QTest::newRow("truncated after a whole entry") << themeFile(change).chopped(8);
         QTest::newRow("binary") << QByteArray("\x7f\x45\x4c\x46\0\1\2\3\xff\xfe", 10);
         QTest::newRow("another document")
             << QByteArray("<settings><color code=\"0\" value=\"#ff0000\"/></settings>");
@@ -94,33 +74,17 @@ private slots:
         QCOMPARE(snapshot(), m_builtIn);
     }
 
-    void missingFileChangesNothing()
-    {
-        QTest::ignoreMessage(
-            QtWarningMsg, QRegularExpression(QStringLiteral("absent\\.xml cannot be opened")));
-        QVERIFY(!CWidgetStyle::initialize(m_dir.filePath(QStringLiteral("absent.xml"))));
-        QCOMPARE(snapshot(), m_builtIn);
-    }
-
     void unusableEntryKeepsItsValue_data()
     {
         QTest::addColumn<QByteArray>("entry");
-        QTest::newRow("colour without a value") << QByteArray("<color code=\"0\"/>");
         QTest::newRow("colour that is none") << QByteArray("<color code=\"0\" value=\"bluish\"/>");
-        QTest::newRow("transparent colour") << QByteArray("<color code=\"0\" value=\"#00ff0000\"/>");
         QTest::newRow("colour code outside the table")
             << QByteArray("<color code=\"18\" value=\"#ff0000\"/>");
-        QTest::newRow("colour code that is no number")
-            << QByteArray("<color code=\"zero\" value=\"#ff0000\"/>");
         QTest::newRow("region without a size")
             << QByteArray("<region id=\"4\" x=\"0\" y=\"0\" width=\"0\" height=\"9\"/>");
         QTest::newRow("region outside every screen")
             << QByteArray("<region id=\"4\" x=\"99999\" y=\"0\" width=\"1\" height=\"9\"/>");
         QTest::newRow("font of no size") << QByteArray("<font kind=\"1\" size=\"0\" weight=\"bold\"/>");
-        QTest::newRow("font of unknown weight")
-            << QByteArray("<font kind=\"1\" size=\"20\" weight=\"heavy\"/>");
-        QTest::newRow("button of unknown colour") << QByteArray(
-            "<button status=\"1\" fill=\"nice\" text=\"accent\" frame=\"accent\" frameWidth=\"9\"/>");
         QTest::newRow("tile of unknown type") << QByteArray("<entry type=\"11\" value=\"#ff0000\"/>");
         QTest::newRow("metric that is no number")
             << QByteArray("<metric name=\"entryWidth\" value=\"wide\"/>");
@@ -167,65 +131,6 @@ private slots:
         QCOMPARE(CWidgetStyle::getMetric(QStringLiteral("old"), 0), 0);
         QCOMPARE(CWidgetStyle::getColor(0), QColor(0x2b, 0x2f, 0x4a));
         QCOMPARE(CWidgetStyle::getColor(1), QColor(0, 255, 0));
-    }
-
-    void fontsTakeTheApplicationFamily()
-    {
-        const QFont before = QApplication::font();
-        QFont other = before;
-        other.setFamily(QStringLiteral("Liberation Mono"));
-        QApplication::setFont(other);
-        QCOMPARE(CWidgetStyle::getFont(CWidgetStyle::FontText).family(), other.family());
-        QCOMPARE(CWidgetStyle::getFont(CWidgetStyle::FontText).pixelSize(), 16);
-        QApplication::setFont(before);
-    }
-
-    void textsCanBeRead_data()
-    {
-        QTest::addColumn<QColor>("text");
-        QTest::addColumn<QColor>("ground");
-        const auto pair = [](const char* name, int text, int ground) {
-            QTest::newRow(name) << CWidgetStyle::getColor(text) << CWidgetStyle::getColor(ground);
-        };
-        using S = CWidgetStyle;
-        pair("page", S::ColorTextLight, S::ColorScreen);
-        pair("muted on page", S::ColorTextMuted, S::ColorScreen);
-        pair("muted on tool box", S::ColorTextMuted, S::ColorToolBox);
-        pair("tool box", S::ColorTextLight, S::ColorToolBox);
-        pair("tool page", S::ColorTextLight, S::ColorToolPage);
-        pair("open tool page", S::ColorTextLight, S::ColorToolPageOpen);
-        pair("chosen", S::ColorTextLight, S::ColorPressed);
-        pair("alert title", S::ColorTextLight, S::ColorAlert);
-        pair("title", S::ColorTextLight, S::ColorTitle);
-        pair("plate", S::ColorTextLight, S::ColorPlate);
-        pair("pressed plate", S::ColorAccent, S::ColorPlate);
-        pair("field", S::ColorTextLight, S::ColorField);
-        pair("dialog", S::ColorTextDark, S::ColorDialog);
-        pair("disabled", S::ColorTextDisabled, S::ColorDisabled);
-        for (int status = 0; status < 4; ++status) {
-            const S::ButtonLook look = S::getButtonLook(status);
-            QTest::newRow(qPrintable(QStringLiteral("button %1").arg(status))) << look.text << look.fill;
-        }
-        for (int type = 0; type <= 10; ++type)
-            QTest::newRow(qPrintable(QStringLiteral("entry %1").arg(type)))
-                << S::getColor(S::ColorTextLight) << S::getEntryColor(type);
-    }
-
-    void textsCanBeRead()
-    {
-        QFETCH(QColor, text);
-        QFETCH(QColor, ground);
-        const double ratio = CStylePainter::contrast(text, ground);
-        QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("%1 : 1").arg(ratio)));
-    }
-
-    void contrastIsTheUsualRatio()
-    {
-        QCOMPARE(qRound(CStylePainter::contrast(Qt::white, Qt::black) * 100), 2100);
-        QCOMPARE(qRound(CStylePainter::contrast(QColor(0x77, 0x77, 0x77), Qt::white) * 100), 448);
-        QCOMPARE(CStylePainter::readable(Qt::yellow, Qt::white),
-            CWidgetStyle::getColor(CWidgetStyle::ColorTextDark));
-        QCOMPARE(CStylePainter::readable(Qt::yellow, Qt::black), QColor(Qt::yellow));
     }
 
 private:

@@ -61,19 +61,6 @@ private slots:
         QCOMPARE(right.count(), 1);
     }
 
-    void touchThroughTheWindowIsDropped()
-    {
-        // As the window system delivers it: to the window, which hands it to the widget.
-        QSignalSpy left(m_left, &QAbstractButton::clicked);
-        const QPoint place = m_left->geometry().center();
-        dropLeftHalf();
-        QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, {}, place);
-        QCOMPARE(left.count(), 0);
-        setRegion(QRect());
-        QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, {}, place);
-        QCOMPARE(left.count(), 1);
-    }
-
     void fingerThatSlidesInIsNoTouch()
     {
         QSignalSpy clicked(m_left, &QAbstractButton::clicked);
@@ -102,20 +89,6 @@ private slots:
         QVERIFY(!m_left->isDown());
         QSignalSpy clicked(m_left, &QAbstractButton::clicked);
         QTest::mouseClick(m_left, Qt::LeftButton);
-        QCOMPARE(clicked.count(), 1);
-    }
-
-    void postedPressCountsWhereTheWidgetIs()
-    {
-        // Enter on the marked control is a posted press: it has no place on the screen but the widget's own.
-        QSignalSpy clicked(m_left, &QAbstractButton::clicked);
-        dropLeftHalf();
-        postTap(m_left);
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(clicked.count(), 0);
-        setRegion(QRect());
-        postTap(m_left);
-        QCoreApplication::sendPostedEvents();
         QCOMPARE(clicked.count(), 1);
     }
 
@@ -175,14 +148,6 @@ private slots:
 private:
     static void setRegion(const QRect& region) { qApp->setProperty("NonInteractiveRegion", region); }
     void dropLeftHalf() { setRegion(QRect(m_window->mapToGlobal(QPoint(0, 0)), QSize(200, 200))); }
-
-    static void postTap(QWidget* widget)
-    {
-        const QPoint center = widget->rect().center();
-        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
-            QCoreApplication::postEvent(
-                widget, new QMouseEvent(type, center, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
-    }
 
     std::unique_ptr<CWidget> m_window;
     CPushButton* m_left = nullptr;

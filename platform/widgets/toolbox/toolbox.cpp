@@ -56,11 +56,6 @@ void CToolBox::setItemText(int page, int item, const QString& text)
         row->setText(text);
 }
 
-QString CToolBox::pageText(int page) const
-{
-    return page >= 0 && page < m_pages.size() ? m_pages.at(page).header->text() : QString();
-}
-
 QString CToolBox::itemText(int page, int item) const
 {
     const CToolBoxButton* row = itemAt(page, item);

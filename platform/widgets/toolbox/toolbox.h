@@ -25,7 +25,6 @@ public:
     /** Re-labels; an index that does not exist is ignored. */
     void setPageText(int page, const QString& text);
     void setItemText(int page, int item, const QString& text);
-    QString pageText(int page) const;
     QString itemText(int page, int item) const;
     int pageCount() const { return m_pages.size(); }
     int itemCount(int page) const;
