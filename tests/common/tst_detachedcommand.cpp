@@ -46,23 +46,16 @@ private slots:
     void cleanup();
     void lines_data();
     void lines();
-    void linesInPieces();
     void startFailures_data();
     void startFailures();
     void environmentOfTheCommand();
-    void keptEnvironment();
-    void commandIsNoChild();
-    void missingStandardInput();
-    void discardedOutput();
     void endsWhatIsNotWanted_data();
     void endsWhatIsNotWanted();
-    void timeOutsUnderASteadyFlood();
     void manyThreadsBesideTheReaper();
     void keepsNoDescriptors();
     void asynchronousLines();
     void stop_data();
     void stop();
-    void receiverMayRestart();
     void receiverMayDestroy();
     void destructorKills();
 };
@@ -102,16 +95,6 @@ void tst_DetachedCommand::lines()
     const QString path = "/tmp/output"_s;
     writeFile(path, output);
     QCOMPARE(linesOf({"cat"_s, path}), expected);
-}
-
-void tst_DetachedCommand::linesInPieces()
-{
-    CLineSplitter splitter;
-    Lines lines;
-    for (const char byte : QByteArray("ab\r\n\xc3\xa4\nend"))
-        lines << splitter.feed(&byte, 1);
-    lines << splitter.finish() << splitter.finish();
-    QCOMPARE(lines, (Lines{"ab"_s, QStringLiteral(u"\u00E4"), "end"_s}));
 }
 
 void tst_DetachedCommand::startFailures_data()
@@ -167,49 +150,6 @@ void tst_DetachedCommand::environmentOfTheCommand()
             "error"_s, "own group"_s}));
 }
 
-void tst_DetachedCommand::keptEnvironment()
-{
-    const QStringList show = shell("echo $OWN_ONLY $BEFORE");
-    qputenv("BEFORE", "before");
-    CDetachedCommand::keepEnvironment();
-    qputenv("OWN_ONLY", "own");
-    qunsetenv("BEFORE");
-    QCOMPARE(linesOf(show), Lines{"before"_s});
-    CDetachedCommand::keepEnvironment();
-    QCOMPARE(linesOf(show), Lines{"own"_s});
-}
-
-void tst_DetachedCommand::commandIsNoChild()
-{
-    CDetachedCommand command;
-    QVERIFY2(command.start(shell("sleep 60")), qPrintable(command.errorText()));
-    QCOMPARE(::waitpid(command.pid(), nullptr, WNOHANG), -1);
-    QCOMPARE(errno, ECHILD);
-    QVERIFY(command.terminate());
-    QTRY_VERIFY(isGroupGone(command.pid()));
-}
-
-void tst_DetachedCommand::missingStandardInput()
-{
-    // A daemon's standard places may be closed; the pipes then get these numbers.
-    const CFileDescriptor saved(::dup(STDIN_FILENO));
-    ::close(STDIN_FILENO);
-    const Lines lines = linesOf(shell("cat; echo out; echo err >&2"));
-    ::dup2(saved.get(), STDIN_FILENO);
-    QCOMPARE(lines, (Lines{"out"_s, "err"_s}));
-}
-
-void tst_DetachedCommand::discardedOutput()
-{
-    QFile::remove("/tmp/discarded"_s);
-    CDetachedCommand command;
-    QVERIFY(
-        command.start(shell("readlink /proc/$$/fd/1 /proc/$$/fd/2 > /tmp/new; mv /tmp/new /tmp/discarded"),
-            CDetachedCommand::Output::Discard));
-    QCOMPARE(command.fd(), -1);
-    QTRY_COMPARE(readFile("/tmp/discarded"_s).count("/dev/null"), 1); // 1 is redirected just there
-}
-
 void tst_DetachedCommand::endsWhatIsNotWanted_data()
 {
     QTest::addColumn<QByteArray>("script");
@@ -232,11 +172,6 @@ void tst_DetachedCommand::endsWhatIsNotWanted()
     }));
     QVERIFY(group > 0);
     QTRY_VERIFY(isGroupGone(group));
-}
-
-void tst_DetachedCommand::timeOutsUnderASteadyFlood()
-{
-    QVERIFY(readCommandLines({"yes"_s}, 200, [](const QString&) { return true; }));
 }
 
 void tst_DetachedCommand::manyThreadsBesideTheReaper()
@@ -320,21 +255,6 @@ void tst_DetachedCommand::stop()
     QTRY_COMPARE(finished.count(), 1);
     QCOMPARE(latest, last);
     QTRY_VERIFY(isGroupGone(lines.pid()));
-}
-
-void tst_DetachedCommand::receiverMayRestart()
-{
-    CCommandLines lines;
-    QSignalSpy read(&lines, &CCommandLines::lineRead);
-    QSignalSpy finished(&lines, &CCommandLines::finished);
-    connect(&lines, &CCommandLines::lineRead, this, [&lines](const QString& line) {
-        if (line == QLatin1String("first"))
-            QVERIFY(lines.start(shell("echo second")));
-    });
-    QVERIFY(lines.start(shell("echo first; echo never seen; sleep 60")));
-    QTRY_COMPARE(finished.count(), 1);
-    QCOMPARE(read.count(), 2);
-    QCOMPARE(read.at(1).at(0).toString(), "second"_s);
 }
 
 void tst_DetachedCommand::receiverMayDestroy()

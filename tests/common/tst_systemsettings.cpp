@@ -76,23 +76,17 @@ class tst_SystemSettings : public QObject
 private slots:
     void initTestCase();
     void init() { QFile::remove(nativeFile()); }
-    void attributes();
     void sharedFields_data();
     void sharedFields();
-    void othersLeaveTheBlock();
-    void invalidAttributes();
-    void attributesWithoutKey();
     void segmentsThatAreNone_data();
     void segmentsThatAreNone();
     void profile_data();
     void profile();
-    void profileIsReadWhole();
     void unusableProfiles_data();
     void unusableProfiles();
     void valuesPersist();
     void unchangedValuesAreNotWritten();
     void unwritableStoreIsReported();
-    void globalInstance(); // last: it stays, and shares the native file
 };
 
 void tst_SystemSettings::initTestCase()
@@ -101,27 +95,6 @@ void tst_SystemSettings::initTestCase()
     QCoreApplication::setOrganizationName("test"_s);
     QCoreApplication::setApplicationName("systemsettings"_s);
     qRegisterMetaType<S::SystemAttribute>();
-}
-
-void tst_SystemSettings::attributes()
-{
-    QSet<QString> keys;
-    int saved = 0;
-    int keyless = 0;
-    for (int value = S::AttributeBegin; value <= S::AttributeEnd; ++value) {
-        const auto attribute = static_cast<S::SystemAttribute>(value);
-        saved += S::isNeedSaveDef(attribute);
-        const QString key = S::getAttributeName(attribute);
-        keyless += key.isEmpty() && S::isValidAttribute(attribute);
-        if (key.isEmpty())
-            continue;
-        QVERIFY(!keys.contains(key));
-        keys << key;
-        QCOMPARE(key, QString::fromLatin1(QMetaEnum::fromType<S::SystemAttribute>().valueToKey(value)));
-    }
-    QCOMPARE(saved, 26);
-    QCOMPARE(keyless, 5);
-    QCOMPARE(keys.size(), 35);
 }
 
 void tst_SystemSettings::sharedFields_data()
@@ -133,37 +106,24 @@ void tst_SystemSettings::sharedFields_data()
     const auto row
         = [](const char* name, S::SystemAttribute attribute, const QVariant& value, int offset,
               const QByteArray& bytes) { QTest::newRow(name) << int(attribute) << value << offset << bytes; };
-    row("battery off", S::BatteryBacklightEnabled, false, 96, number(0));
     row("battery on", S::BatteryBacklightEnabled, true, 96, number(1));
     row("flag of a number", S::BatteryBacklightEnabled, 7, 96, number(1));
     row("flag of a stored text", S::BatteryBacklightEnabled, "true"_s, 96, number(1));
     row("battery time", S::BatteryBacklightTime, 30, 100, number(30));
-    row("AC", S::ACBacklightEnabled, true, 104, number(1));
-    row("AC time", S::ACBacklightTime, "-60"_s, 108, number(-60));
-    row("battery brightness", S::BatteryBrightness, 50, 112, number(50));
     row("AC brightness", S::ACBrightness, 63, 116, number(63));
     row("no number", S::ACBrightness, "bright"_s, 116, number(0));
     row("password", S::PasswordVisible, true, 12, number(1));
-    row("save screen", S::LockScreenORSaveScreen, true, 120, number(1));
     row("compress high", S::SaveScreenCompressLevel, 65000, 124, number(7));
     row("compress middle", S::SaveScreenCompressLevel, 65001, 124, number(3));
     row("compress none", S::SaveScreenCompressLevel, 65002, 124, number(0));
-    row("compress other", S::SaveScreenCompressLevel, "x"_s, 124, number(3));
     row("maximum", S::SaveScreenMaxNum, 50, 132, number(50));
     row("application", S::InitDefAppIndex, 1, 512, number(1));
     row("delete", S::ProDelType, "PROMPT"_s, 80, number(1));
-    row("delete force", S::ProDelType, "force"_s, 80, number(0));
-    row("save profile", S::ProSaveType, "prompt"_s, 84, number(1));
     row("save result", S::RstSaveType, "Prompt"_s, 88, number(1));
-    row("save result manual", S::RstSaveType, "manual"_s, 88, number(0));
     row("alarm", S::AudibleAlarm, true, 8, number(1));
-    row("advanced", S::AdvancedSave, true, 92, number(1));
     row("english", S::UintType, "English"_s, 4, number(unit_english));
-    row("metric", S::UintType, "x"_s, 4, number(unit_metric));
     row("usa", S::UserStyle, "USA"_s, 216, number(uistyle_usa));
-    row("international", S::UserStyle, "international"_s, 216, number(uistyle_international));
     row("prefix", S::FileNamePrefix, "site"_s, 16, "site" + QByteArray(1, '\0'));
-    row("no prefix", S::FileNamePrefix, QString(), 16, QByteArray(1, '\0'));
     row("prefix fills the field", S::FileNamePrefix, QString(63, QLatin1Char('p')), 16,
         QByteArray(63, 'p') + '\0');
     row("prefix longer than the field", S::FileNamePrefix, QString(5000, QLatin1Char('p')), 16,
@@ -172,9 +132,6 @@ void tst_SystemSettings::sharedFields_data()
         QByteArray(62, 'p') + '\0');
     row("clock 0", S::ClkSrc0, "gps"_s, 520, number(2));
     row("clock 1", S::ClkSrc1, "Atomic"_s, 524, number(3));
-    row("clock 2", S::ClkSrc2, "ATOMIC_10M"_s, 528, number(4));
-    row("clock 3", S::ClkSrc3, "tcxo"_s, 532, number(1));
-    row("clock 4", S::ClkSrc4, QVariant(), 536, number(1));
     row("clock 5", S::ClkSrc5, "gps"_s, 540, number(2));
     row("management port", S::ManPortBoot, true, 516, number(1));
 }
@@ -199,46 +156,6 @@ void tst_SystemSettings::sharedFields()
     QCOMPARE(settings.getAttribute(which), value);
     QCOMPARE(changed.count(), 2); // the same value is announced again
     QCOMPARE(changed.at(1).at(0).value<S::SystemAttribute>(), which);
-}
-
-void tst_SystemSettings::othersLeaveTheBlock()
-{
-    const Segment segment(BlockSize);
-    QVERIFY(segment.isValid());
-    Settings settings;
-    for (int value = S::AttributeBegin; value <= S::AttributeEnd; ++value) {
-        const auto attribute = static_cast<S::SystemAttribute>(value);
-        if (!S::isNeedSaveDef(attribute))
-            settings.setAttribute(attribute, 0x01020304);
-    }
-    QCOMPARE(segment.content(), QByteArray(BlockSize, Untouched));
-}
-
-void tst_SystemSettings::invalidAttributes()
-{
-    Settings settings;
-    QSignalSpy changed(&settings, &S::attributeChanged);
-    settings.setAttribute(S::BTHDevPaired, "shared"_s); // the key that an unknown attribute must not get
-    for (const int value : {0, int(S::AttributeBegin), int(S::AttributeEnd), 70000}) {
-        const auto attribute = static_cast<S::SystemAttribute>(value);
-        settings.setAttribute(attribute, 1);
-        QVERIFY(!settings.getAttribute(attribute).isValid());
-        QVERIFY(!S::isNeedSaveDef(attribute));
-    }
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(settings.getAttribute(S::Language), QVariant("shared"_s));
-}
-
-void tst_SystemSettings::attributesWithoutKey()
-{
-    Settings settings;
-    QVERIFY(!settings.getAttribute(S::Language).isValid());
-    settings.setAttribute(S::BTHDevPaired, true);
-    for (const S::SystemAttribute attribute :
-        {S::BTHDevPlugged, S::PairedBTHDevName, S::PairedBTHDevAddr, S::Language})
-        QCOMPARE(settings.getAttribute(attribute), QVariant(true));
-    settings.setAttribute(S::Language, 65003);
-    QCOMPARE(settings.getAttribute(S::BTHDevPaired), QVariant(65003));
 }
 
 void tst_SystemSettings::segmentsThatAreNone_data()
@@ -273,30 +190,18 @@ void tst_SystemSettings::profile_data()
         = [](const QString& name, const QString& text, S::SystemAttribute attribute, const QVariant& value) {
               QTest::newRow(qPrintable(name + " "_s + text)) << name << text << int(attribute) << value;
           };
-    row("bl_off_battery_on"_s, "on"_s, S::BatteryBacklightEnabled, true);
     row("bl_off_battery_time"_s, "60"_s, S::BatteryBacklightTime, 60);
-    row("br_level_battery"_s, "-1"_s, S::BatteryBrightness, -1);
-    row("bl_off_AC_on"_s, "OFF"_s, S::ACBacklightEnabled, false);
     row("bl_off_AC_time"_s, "60s"_s, S::ACBacklightTime, "60s"_s);
     row("br_level_AC"_s, ""_s, S::ACBrightness, ""_s);
     row("show_password"_s, "On"_s, S::PasswordVisible, true);
-    row("save_screen_enable"_s, "off"_s, S::LockScreenORSaveScreen, false);
     row("save_screen_compress"_s, "High"_s, S::SaveScreenCompressLevel, 65000);
     row("save_screen_compress"_s, "NoCompress"_s, S::SaveScreenCompressLevel, 65002);
     row("save_screen_compress"_s, "on"_s, S::SaveScreenCompressLevel, 65001);
     row("save_screen_maxnum"_s, "99999999999"_s, S::SaveScreenMaxNum, "99999999999"_s);
-    row("initdef_appindex"_s, "1"_s, S::InitDefAppIndex, 1);
     row("profdel_type"_s, "prompt"_s, S::ProDelType, "prompt"_s);
-    row("profsave_type"_s, "force"_s, S::ProSaveType, "force"_s);
-    row("rsltsave_type"_s, "manual"_s, S::RstSaveType, "manual"_s);
-    row("audible_alarm"_s, "on"_s, S::AudibleAlarm, true);
-    row("advanced_save"_s, "on"_s, S::AdvancedSave, true);
     row("unittype"_s, "english"_s, S::UintType, "english"_s);
-    row("ui_style"_s, "usa"_s, S::UserStyle, "usa"_s);
     row("fname_prefix"_s, "A & B"_s, S::FileNamePrefix, "A & B"_s);
     row("clock_source_0"_s, "gps"_s, S::ClkSrc0, "gps"_s);
-    row("clock_source_5"_s, "atomic"_s, S::ClkSrc5, "atomic"_s);
-    row("manport_bootconnect"_s, "on"_s, S::ManPortBoot, true);
 }
 
 void tst_SystemSettings::profile()
@@ -319,20 +224,6 @@ void tst_SystemSettings::profile()
     QCOMPARE(settings.getAttribute(which).userType(), value.userType());
     QCOMPARE(settings.getAttribute(which), value);
     QCOMPARE(segment.content(), QByteArray(BlockSize, Untouched));
-}
-
-void tst_SystemSettings::profileIsReadWhole()
-{
-    writeFile(Profile,
-        "<a unittype='metric'>text<b ui_style='usa'><!-- x --><c clock_source_3='gps'/></b>"
-        "<b unittype='english' audible_alarm='on'/></a>");
-    Settings settings;
-    QSignalSpy changed(&settings, &S::attributeChanged);
-    settings.loadDefAttribute();
-    QCOMPARE(changed.count(), 5);
-    QCOMPARE(settings.getAttribute(S::UintType), QVariant("english"_s)); // the later one holds
-    QCOMPARE(settings.getAttribute(S::UserStyle), QVariant("usa"_s));
-    QCOMPARE(settings.getAttribute(S::ClkSrc3), QVariant("gps"_s));
 }
 
 void tst_SystemSettings::unusableProfiles_data()
@@ -411,13 +302,6 @@ void tst_SystemSettings::unwritableStoreIsReported()
     settings.setAttribute(S::FileNamePrefix, "here all the same"_s);
     QCoreApplication::processEvents();
     QCOMPARE(settings.getAttribute(S::FileNamePrefix), QVariant("here all the same"_s));
-}
-
-void tst_SystemSettings::globalInstance()
-{
-    QCOMPARE(S::globalSettings(), S::globalSettings());
-    QVERIFY(!S::globalSettings()->parent());
-    QCOMPARE(S::globalSettings()->getAttribute(S::GPS_State_ON), QVariant(3));
 }
 
 QTEST_GUILESS_MAIN(tst_SystemSettings)
