@@ -18,7 +18,6 @@ private slots:
     void repeatedKeyIsOne();
     void heldKeyIsOnePress();
     void keysWithTestApplicationInFront();
-    void enterTouchesOnce();
     void enterOnADisabledControl();
     void enterOnAHiddenControl();
     void markedControlGoes();
@@ -94,20 +93,6 @@ void TestKeys::keysWithTestApplicationInFront()
     press(Qt::Key_Down);
     QVERIFY(!marked());
     m_window->setWindowVisible(true);
-}
-
-void TestKeys::enterTouchesOnce()
-{
-    press(Qt::Key_Down);
-    CPushButton* header = marked();
-    QVERIFY(header);
-    QSignalSpy clicked(header, &QAbstractButton::clicked);
-    press(Qt::Key_Return);
-    QTRY_COMPARE(clicked.size(), 1);
-    QVERIFY(!header->isDown());
-    QCOMPARE(marked(), header); // stays where it was
-    press(Qt::Key_Return);
-    QTRY_COMPARE(clicked.size(), 2);
 }
 
 void TestKeys::enterOnADisabledControl()

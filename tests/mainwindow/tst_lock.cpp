@@ -72,7 +72,6 @@ private slots:
     void cleanup();
 
     void lockedScreenTakesNoTouch();
-    void lockedEnterDoesNothing();
     void lockHoldsInsideDialogs_data();
     void lockHoldsInsideDialogs();
     void pageThatComesUpDoesNotUnlock();
@@ -136,22 +135,6 @@ void TestLock::lockedScreenTakesNoTouch()
     QCOMPARE(locked.size(), 0);
     m_screen.touch(middleOf(header[0]));
     QTRY_COMPARE(locked.size(), 1);
-}
-
-void TestLock::lockedEnterDoesNothing()
-{
-    press(Qt::Key_Down);
-    CToolBoxButton* header = headers().constFirst();
-    QVERIFY(header->hasArrowKeyFocus());
-    QSignalSpy pressed(header, &QAbstractButton::pressed);
-    press(Qt::Key_F4);
-    press(Qt::Key_Return);
-    QCoreApplication::processEvents();
-    QVERIFY(!header->isDown());
-    press(Qt::Key_F4);
-    QCOMPARE(pressed.size(), 0);
-    press(Qt::Key_Return);
-    QTRY_COMPARE(pressed.size(), 1);
 }
 
 void TestLock::lockHoldsInsideDialogs_data()

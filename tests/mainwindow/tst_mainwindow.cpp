@@ -31,20 +31,15 @@ private slots:
     void init() { reset(); }
 
     void firstFrameIsOnTheScreenBeforeTheLaunchBlocks();
-    void toolBoxAsBuilt();
-    void defaultsAreInTheStore();
-    void applicationIndexIsMarked();
 
     void menuItemsAndCaption();
     void menuTileOffersClose();
     void closeStepsBackThroughThePath();
-    void sameItemTwiceIsOneStep();
     void unavailableUtilityKeepsThePage();
-    void identifierOutOfRangeIsIgnored();
 
     void usbWithoutDriveGoesHome();
-
     void relabelAfterLanguageChange();
+
     void captionAfterLanguageChange();
     void closeRequestIsIgnored();
     void placement();
@@ -105,43 +100,6 @@ void TestMainWindow::firstFrameIsOnTheScreenBeforeTheLaunchBlocks()
         qPrintable(QStringLiteral("shown at %1 ms, blocked from %2 ms").arg(m_shownAt).arg(m_blockedAt)));
 }
 
-void TestMainWindow::toolBoxAsBuilt()
-{
-    const CToolBox* box = toolBox();
-    QStringList rows;
-    for (int p = 0; p < box->pageCount(); ++p) {
-        rows << box->pageText(p);
-        for (int i = 0; i < box->itemCount(p); ++i)
-            rows << QLatin1Char(' ') + box->itemText(p, i);
-    }
-    QCOMPARE(rows.join(QLatin1Char('|')),
-        QStringLiteral("Tools| IP Tools| Net Wiz| WiFi Wiz| Advanced|"
-                       "Utilities| Settings| Backlight| Harbor|Files| Saved| USB| Capture"));
-    QCOMPARE(box->geometry(), QRect(0, 60, 160, 400));
-}
-
-void TestMainWindow::defaultsAreInTheStore()
-{
-    const CSystemSettings* settings = CSystemSettings::globalSettings();
-    QCOMPARE(settings->getAttribute(CSystemSettings::ACBrightness).toInt(), 63);
-    QCOMPARE(settings->getAttribute(CSystemSettings::BatteryBacklightTime).toInt(), 10);
-    QCOMPARE(settings->getAttribute(CSystemSettings::ClkSrc5).toString(), QStringLiteral("tcxo"));
-    QCOMPARE(settings->getAttribute(CSystemSettings::SaveScreenCompressLevel).toInt(), 65001);
-}
-
-void TestMainWindow::applicationIndexIsMarked()
-{
-    const auto marked = [this] { return CXScreen().appIndexOf(m_window->winId()); };
-    m_window->markAppIndex(1);
-    QCOMPARE(marked(), 1);
-    // A new X window starts with index 0.
-    m_window->setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-    m_window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
-    m_window->show();
-    QTRY_COMPARE(marked(), 0);
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-}
-
 void TestMainWindow::menuItemsAndCaption()
 {
     QCOMPARE(caption(), QStringLiteral("Home"));
@@ -193,16 +151,6 @@ void TestMainWindow::closeStepsBackThroughThePath()
     QFile::remove(PLUGIN_DIR + QStringLiteral("libsettingPower.so"));
 }
 
-void TestMainWindow::sameItemTwiceIsOneStep()
-{
-    choose(UTILITY_ID_ADVTOOL);
-    choose(UTILITY_ID_ADVTOOL);
-    QVERIFY(page<CAdvanceMenu>()->isVisible());
-    m_window->triggerClose();
-    QVERIFY(page<CHomePage>()->isVisible());
-    QVERIFY(!homeShown());
-}
-
 void TestMainWindow::unavailableUtilityKeepsThePage()
 {
     choose(UTILITY_ID_ADVTOOL);
@@ -220,15 +168,6 @@ void TestMainWindow::unavailableUtilityKeepsThePage()
         m_window.get(), "updateStorageStatus", Q_ARG(StorageStatus, StorageStatus())));
     QVERIFY(page<CAdvanceMenu>()->isVisible());
     QCOMPARE(markedItem(), int(UTILITY_ID_ADVTOOL));
-}
-
-void TestMainWindow::identifierOutOfRangeIsIgnored()
-{
-    choose(UTILITY_ID_ADVTOOL);
-    for (const int id : {-1, 0, UTILITY_ID_BEGIN - 1, UTILITY_ID_END + 1, INT_MAX})
-        m_window->changeCurrentUtil(id);
-    QVERIFY(page<CAdvanceMenu>()->isVisible());
-    QCOMPARE(m_window->currentUtil(), UTILITY_ID_ADVTOOL);
 }
 
 void TestMainWindow::usbWithoutDriveGoesHome()

@@ -10,10 +10,8 @@ class TestMenuPath : public QObject
 
 private slots:
     void stackKeepsEachUtilityOnce();
-    void emptyStackToleratesPop();
     void caption_data();
     void caption();
-    void everyCaptionStartsAtHome();
 };
 
 void TestMenuPath::stackKeepsEachUtilityOnce()
@@ -30,16 +28,6 @@ void TestMenuPath::stackKeepsEachUtilityOnce()
     QCOMPARE(stack.top().menuLevel, 1);
 }
 
-void TestMenuPath::emptyStackToleratesPop()
-{
-    CMenuStack stack;
-    stack.pop();
-    QVERIFY(stack.isEmpty());
-    stack.push(1, 1);
-    stack.clear();
-    QVERIFY(stack.isEmpty());
-}
-
 void TestMenuPath::caption_data()
 {
     QTest::addColumn<int>("id");
@@ -50,19 +38,12 @@ void TestMenuPath::caption_data()
         const char* path;
     } rows[] = {
         {UTILITY_ID_BEGIN, "Home"},
-        {UTILITY_ID_TOOLS, "Home"},
         {UTILITY_ID_IP_TOOLS, "Home>Tools>IP Tools"},
-        {UTILITY_ID_DISK_MANAGE, "Home>Files>Manage"},
         {UTILITY_ID_OPM, "Home>Tools>Advanced>Optical Power Meter"},
         {UTILITY_ID_DATE_TIME, "Home>Utilities>Settings>Date & Time"},
         {UTILITY_ID_WIFI_INSSDER, "Home>Tools>WiFi InSSIDer"},
         {UTILITY_ID_PCAP_MANAGER, "Home>Files>Capture"},
-        {UTILITY_ID_VFL, "Home>Tools>Advanced>VFL"},
         {UTILITY_ID_NETWORK, "Home"},
-        {UTILITY_ID_DATACARD_GPS, "Home"},
-        {UTILITY_ID_DATACARD_3G, "Home"},
-        {UTILITY_ID_SETTING_MORE, "Home"},
-        {UTILITY_ID_ODMTOOL, "Home"},
         {UTILITY_ID_END, "Home"},
         {0, "Home"},
     };
@@ -75,19 +56,6 @@ void TestMenuPath::caption()
     QFETCH(int, id);
     QFETCH(QString, path);
     QCOMPARE(captionPath(id).join(QLatin1Char('>')), path);
-}
-
-void TestMenuPath::everyCaptionStartsAtHome()
-{
-    int withPath = 0;
-    for (int id = UTILITY_ID_BEGIN; id <= UTILITY_ID_END; ++id) {
-        const QStringList path = captionPath(id);
-        QCOMPARE(path.first(), QStringLiteral("Home"));
-        QVERIFY(path.size() <= 4);
-        QVERIFY(!path.contains(QString()));
-        withPath += path.size() > 1;
-    }
-    QCOMPARE(withPath, 28);
 }
 
 QTEST_GUILESS_MAIN(TestMenuPath)

@@ -27,7 +27,6 @@ private slots:
     void failureDismissedComesBack();
     void pagesFollowWhileOpen();
     void storagePageOverTestApplication();
-    void pageOpenBeforeTheTestApplication();
     void testApplicationGoesWhileItsPageIsOpen();
     void fakeDesktopGoesWithItsPage();
     void touchStartsTheBacklightTime(); // before a time has been taken over
@@ -121,20 +120,6 @@ void TestStatus::storagePageOverTestApplication()
     QVERIFY(!m_window->isNeedInteractive()); // the test application has the screen again
     QCOMPARE(region(), TEST_APP_AREA);
     m_window->setWindowVisible(true);
-    QCOMPARE(region(), QRect());
-}
-
-void TestStatus::pageOpenBeforeTheTestApplication()
-{
-    CWithDialog page([this](CDialog* dialog) {
-        m_window->setWindowVisible(false);
-        emit g_pSigTransfer->queryStorageInfo(); // noted, and not served before the shell comes back
-        m_window->setWindowVisible(true);
-        dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
-    });
-    emit g_pSigTransfer->queryPowerInfo();
-    QVERIFY(page.isDone());
-    QVERIFY(m_window->isNeedInteractive()); // closing it did not send the shell away
     QCOMPARE(region(), QRect());
 }
 

@@ -26,16 +26,14 @@ private slots:
     void calibrationNeedsConsent();
     void calibrationGivesTheInputBack();
     void pluginLifeCycle();
-    void closeOnSavedIsHome();
     void failedStartIsReported();
     void homeDuringTheWaitLoadsNothing();
     void comingBackDuringTheWaitStartsOnce();
     void browserLocksInputForAWhile();
     void testApplicationInFront();
+    void switchOverlay();
     void dialogStepsAsideForATestApplication();
     void errorBehindATestApplicationWaits();
-    void pageStartedBehindATestApplicationIsPainted();
-    void switchOverlay();
     void missingLibraryShowsTheLoadersText();
 };
 
@@ -109,19 +107,6 @@ void TestSwitching::pluginLifeCycle()
     QTRY_VERIFY(page<CHomePage>()->isVisible());
     QVERIFY(!pluginPage);
     QCOMPARE(m_window->currentUtil(), UTILITY_ID_BEGIN);
-}
-
-void TestSwitching::closeOnSavedIsHome()
-{
-    installFixture("libfixture_recorder.so", QStringLiteral("libresultman.so"));
-    choose(UTILITY_ID_ADVTOOL);
-    choose(UTILITY_ID_RESULT_MANAGER);
-    QVERIFY(homeShown() && closeShown());
-    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
-    icon("closeButton")->click();
-    QVERIFY(page<CHomePage>()->isVisible());
-    QVERIFY(!homeShown() && !closeShown());
-    QVERIFY(pluginCalls().contains(QStringLiteral("stop")));
 }
 
 void TestSwitching::failedStartIsReported()
@@ -228,16 +213,6 @@ void TestSwitching::errorBehindATestApplicationWaits()
     });
     QTRY_VERIFY(box.isDone());
     QVERIFY(isAside);
-}
-
-void TestSwitching::pageStartedBehindATestApplicationIsPainted()
-{
-    installFixture("libfixture_recorder.so", QStringLiteral("libnetwiz.so"));
-    m_window->setWindowVisible(false);
-    m_window->changeCurrentUtil(UTILITY_ID_NET_WIZARD);
-    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
-    m_window->setWindowVisible(true);
-    QTRY_COMPARE(CXScreen().pixel({400, 300}), QColor(0x5c, 0x78, 0x5f));
 }
 
 void TestSwitching::switchOverlay()
