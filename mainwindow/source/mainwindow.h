@@ -95,8 +95,8 @@ public:
     void moveToWorkingArea(CWidget* widget);
 
     /**
-     * Asks for a region of the screen in which touches are dropped, in this process and, for the whole screen,
-     * by a pointer grab. It holds while nothing else decides about touches (touchstate.h).
+     * Asks for a region of the screen in which touches are dropped, in this process and, for the whole
+     * screen, by a pointer grab. It holds while nothing else decides about touches (touchstate.h).
      * @param region the region for CutomizeRegion, in screen pixels; else ignored
      */
     void setNonInteractiveRegion(NonInteractiveRegionType type, const QRect& region);

@@ -6,13 +6,13 @@
 #include "systemsettings.h"
 #include "widgets/messagebox/messagebox.h"
 
-#include <QCoreApplication>
-#include <QGuiApplication>
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QSaveFile>
 #include <QScopeGuard>
 #include <QScreen>

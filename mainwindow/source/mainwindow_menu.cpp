@@ -213,8 +213,7 @@ void CMainWindow::setTopBarButtonStatus(bool home, bool close)
 
 void CMainWindow::triggerHome()
 {
-    m_transitions.request(
-        CTransitions::Utility, [this] { m_transitions.perform([this] { goHome(); }); });
+    m_transitions.request(CTransitions::Utility, [this] { m_transitions.perform([this] { goHome(); }); });
 }
 
 void CMainWindow::goHome()

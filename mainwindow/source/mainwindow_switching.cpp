@@ -57,8 +57,7 @@ void CMainWindow::changeCurrentUtil(int id)
     if (id < UTILITY_ID_BEGIN || id > UTILITY_ID_END)
         return;
     const bool isAsking = id == UTILITY_ID_SCREEN && !bIsAutoTSCal;
-    m_transitions.request(
-        CTransitions::Utility, [this, id, isAsking] { openUtil(UtilityID(id), isAsking); });
+    m_transitions.request(CTransitions::Utility, [this, id, isAsking] { openUtil(UtilityID(id), isAsking); });
 }
 
 void CMainWindow::openUtil(UtilityID id, bool isAsking)

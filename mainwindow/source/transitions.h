@@ -7,8 +7,8 @@
 /**
  * One transition of the window at a time. A transition is the work between two states in which the shell can
  * be used: leaving a page and showing another, loading a plug-in, stepping aside for a test application. A
- * plug-in may run an event loop of its own in the middle of one, and its signals, other processes and the user
- * then ask for the next; what they ask for waits until the present one is over.
+ * plug-in may run an event loop of its own in the middle of one, and its signals, other processes and the
+ * user then ask for the next; what they ask for waits until the present one is over.
  *
  * Of each kind the last request wins, except that every word of visibility is kept: who says it counts on
  * both. What waited is done in the order of the kinds. A box is no part of a transition: it is asked before
