@@ -114,14 +114,14 @@ void CDeviceMonitor::inquireAll()
     inquire(&Self::inquireDataCardStatus, &Self::dataCardStatusChanged, "Inquire GPS status failed");
 }
 
-bool CDeviceMonitor::inquirePowerStatus(PowerStatus*)
+bool CDeviceMonitor::inquirePowerStatus(PowerStatus* status)
 {
-    return true;
+    return !m_powerSource || m_powerSource(status);
 }
 
-bool CDeviceMonitor::inquireBluetoothStatus(BluetoothStatus*)
+bool CDeviceMonitor::inquireBluetoothStatus(BluetoothStatus* status)
 {
-    return true;
+    return !m_bluetoothSource || m_bluetoothSource(status);
 }
 
 bool CDeviceMonitor::inquireStorageStatus(StorageStatus* status)

@@ -103,6 +103,7 @@ void CMainWindow::postLaunch()
         return;
     m_pDevMonitor->start(QThread::InheritPriority);
     m_pDevMonitor->wakeupScreen(m_powerStat.bIsBat, 1);
+    m_innerPages.runLaunchWork();
     autoLoadPlugins();
     QThread::msleep(LAUNCH_SETTLE);
     m_pSystemTimer->start();

@@ -206,6 +206,7 @@ void CDialog::setAside(bool aside)
         windowHandle()->removeEventFilter(this);
         clearMask();
     }
+    emit asideChanged();
 }
 
 bool CDialog::eventFilter(QObject* watched, QEvent* event)
