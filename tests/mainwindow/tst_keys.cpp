@@ -1,8 +1,15 @@
 #include "advancemenu.h"
+#include "busymachine.h"
 #include "drivenwindow.h"
+#include "widgets/keypad/keypaddialog.h"
+#include "widgets/parmlineedit/parmlineedit.h"
+#include "withdialog.h"
+#include "xscreen.h"
 #include "widgets/entrywidget/entrywidget.h"
 
 #include <QSignalSpy>
+
+#include <X11/keysym.h>
 
 /** What the arrow keys, Enter and Home do. */
 class TestKeys : public QObject, private CDrivenWindow
@@ -16,11 +23,23 @@ private slots:
     void firstArrowMarksTheFirstControl();
     void arrowsMoveAndEnterTouches();
     void repeatedKeyIsOne();
-    void heldKeyIsOnePress();
+    void heldKeyLocksOnce();
+    void heldEnterOpensThePadOnly();
     void keysWithTestApplicationInFront();
     void enterOnADisabledControl();
     void enterOnAHiddenControl();
     void markedControlGoes();
+
+private:
+    /** The X server's keys come to the window; none that a test pressed before makes the next one a repeat. */
+    void takeKeyboard()
+    {
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QTRY_VERIFY(!m_sinceKey.isValid() || m_sinceKey.elapsed() >= KEY_PAUSE);
+    }
+
+    CXScreen m_screen;
 };
 
 void TestKeys::firstArrowMarksTheFirstControl()
@@ -76,15 +95,44 @@ void TestKeys::repeatedKeyIsOne()
     QVERIFY(marked() != first);
 }
 
-void TestKeys::heldKeyIsOnePress()
+void TestKeys::heldKeyLocksOnce()
 {
-    press(Qt::Key_F4);
-    QTRY_VERIFY(m_sinceKey.elapsed() >= KEY_PAUSE); // the first repetition comes late
-    QKeyEvent repetition(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier, QString(), true);
-    QCoreApplication::sendEvent(m_window.get(), &repetition);
+    QSignalSpy locked(m_window.get(), &CMainWindow::lockStateChanged);
+    const CBusyMachine busy;
+    for (int hold = 1; hold <= 2; ++hold) { // locked by the first, unlocked by the second
+        takeKeyboard();
+        auto held = std::make_unique<CHeldKey>(m_screen, XK_F4);
+        QTRY_COMPARE(locked.size(), hold);
+        QTRY_VERIFY(busy.unflaggedRepetitions() >= 5 * hold);
+        held.reset();
+        m_sinceKey.start();
+        QCOMPARE(locked.size(), hold);
+    }
+}
+
+void TestKeys::heldEnterOpensThePadOnly()
+{
+    CParmLineEdit field(QStringLiteral("Name"), QStringLiteral("a"), m_window.get());
+    field.setGeometry(300, 200, 400, 44);
+    field.show();
+    press(Qt::Key_Down);
+    QVERIFY(field.hasArrowKeyFocus());
+    takeKeyboard();
+    const CBusyMachine busy;
+    auto held = std::make_unique<CHeldKey>(m_screen, XK_Return);
+    CWithDialog withPad([&](CDialog* pad) {
+        pad->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(pad));
+        const int before = busy.unflaggedRepetitions();
+        QTRY_VERIFY(busy.unflaggedRepetitions() >= before + 5);
+        for (const auto* button : pad->findChildren<CPushButton*>())
+            QVERIFY(!button->isDown());
+        QVERIFY(pad->isVisible());
+        pad->reject();
+    });
+    QTRY_VERIFY(withPad.isDone());
+    held.reset();
     m_sinceKey.start();
-    QCOMPARE(region(), WHOLE_SCREEN);
-    press(Qt::Key_F4);
 }
 
 void TestKeys::keysWithTestApplicationInFront()
