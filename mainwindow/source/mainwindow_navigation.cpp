@@ -54,8 +54,8 @@ void CMainWindow::keyPressEvent(QKeyEvent* event)
 
     // Restarted by ignored presses too: a held key stays one press for as long as it is held. Its first
     // repetition comes later than the limit, and on a busy machine any of them may.
-    const bool isRepeat
-        = isKeyRepetition(*event) || (m_keyEventTime.isValid() && m_keyEventTime.elapsed() < KEY_REPEAT_LIMIT);
+    const bool isRepeat = isKeyRepetition(*event)
+        || (m_keyEventTime.isValid() && m_keyEventTime.elapsed() < KEY_REPEAT_LIMIT);
     m_keyEventTime.start();
     if (isRepeat || (m_winVisibleReason == TestAppForeground && key != Qt::Key_F4) || key < Qt::Key_Escape
         || key > Qt::Key_F4)

@@ -1,15 +1,32 @@
 #include "advancemenu.h"
 #include "busymachine.h"
 #include "drivenwindow.h"
-#include "widgets/keypad/keypaddialog.h"
+#include "mainapplication.h"
+#include "widgets/entrywidget/entrywidget.h"
+#include "widgets/parmcombobox/parmcombobox.h"
+#include "widgets/parmcombobox/parmlist.h"
 #include "widgets/parmlineedit/parmlineedit.h"
 #include "withdialog.h"
 #include "xscreen.h"
-#include "widgets/entrywidget/entrywidget.h"
 
+#include <QLineEdit>
+#include <QScopeGuard>
 #include <QSignalSpy>
 
 #include <X11/keysym.h>
+
+namespace {
+
+int s_keysSeen = 0; // by the window, which writes a line for each
+QtMessageHandler s_log = nullptr;
+
+void countKeys(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    s_keysSeen += text.startsWith(QLatin1String("Key:")) ? 1 : 0;
+    s_log(type, context, text);
+}
+
+} // namespace
 
 /** What the arrow keys, Enter and Home do. */
 class TestKeys : public QObject, private CDrivenWindow
@@ -17,7 +34,13 @@ class TestKeys : public QObject, private CDrivenWindow
     Q_OBJECT
 
 private slots:
-    void initTestCase() { open(); }
+    void initTestCase()
+    {
+        open();
+        static_cast<CMainApplication*>(qApp)->setMainWindowInstance(m_window.get());
+        s_log = qInstallMessageHandler(countKeys);
+    }
+    void cleanupTestCase() { qInstallMessageHandler(s_log); }
     void init() { reset(); }
 
     void firstArrowMarksTheFirstControl();
@@ -25,18 +48,48 @@ private slots:
     void repeatedKeyIsOne();
     void heldKeyLocksOnce();
     void heldEnterOpensThePadOnly();
+    void homeActsOnce_data();
+    void homeActsOnce();
+    void aDialogHearsF3NotHome();
     void keysWithTestApplicationInFront();
     void enterOnADisabledControl();
     void enterOnAHiddenControl();
     void markedControlGoes();
 
 private:
-    /** The X server's keys come to the window; none that a test pressed before makes the next one a repeat. */
+    /** The X server's keys come to the window; none that a test pressed before makes the next one a repeat.
+     */
     void takeKeyboard()
     {
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         QTRY_VERIFY(!m_sinceKey.isValid() || m_sinceKey.elapsed() >= KEY_PAUSE);
+    }
+
+    /** A real key, pressed and released, with the window's time for a press of its own before it. */
+    void tap(unsigned long keysym)
+    {
+        QTRY_VERIFY(!m_sinceKey.isValid() || m_sinceKey.elapsed() >= KEY_PAUSE);
+        s_keysSeen = 0;
+        const CHeldKey key(m_screen, keysym);
+        m_sinceKey.start();
+    }
+    /** Opens a field's key pad and presses Home in it. */
+    void homeInThePadOf(CParmLineEdit& field)
+    {
+        CWithDialog withPad([this](CDialog* dialog) {
+            const QPointer<CDialog> pad(dialog);
+            const auto closed = qScopeGuard([&pad] {
+                if (pad)
+                    pad->reject(); // or a fault would keep the test in it
+            });
+            pad->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(pad));
+            tap(XK_Home);
+            QTRY_VERIFY(!pad || !pad->isVisible());
+        });
+        field.click();
+        QVERIFY(withPad.isDone());
     }
 
     CXScreen m_screen;
@@ -121,6 +174,7 @@ void TestKeys::heldEnterOpensThePadOnly()
     const CBusyMachine busy;
     auto held = std::make_unique<CHeldKey>(m_screen, XK_Return);
     CWithDialog withPad([&](CDialog* pad) {
+        const auto closed = qScopeGuard([pad] { pad->reject(); });
         pad->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(pad));
         const int before = busy.unflaggedRepetitions();
@@ -128,11 +182,67 @@ void TestKeys::heldEnterOpensThePadOnly()
         for (const auto* button : pad->findChildren<CPushButton*>())
             QVERIFY(!button->isDown());
         QVERIFY(pad->isVisible());
-        pad->reject();
     });
     QTRY_VERIFY(withPad.isDone());
     held.reset();
     m_sinceKey.start();
+}
+
+void TestKeys::homeActsOnce_data()
+{
+    QTest::addColumn<int>("util");
+    QTest::addColumn<QString>("keyboard"); // what has it
+    const auto row = [](int util, const char* keyboard) {
+        QTest::newRow(keyboard) << util << QString::fromLatin1(keyboard);
+    };
+    row(UTILITY_ID_ADVTOOL, "window");
+    row(UTILITY_ID_ADVTOOL, "text field"); // keeps Home for itself
+    row(UTILITY_ID_ADVTOOL, "list"); // passes Home on to the window
+    row(UTILITY_ID_ADVTOOL, "key pad");
+    row(UTILITY_ID_IP_TOOLS, "key pad of a plug-in"); // goes with the plug-in's page
+}
+
+void TestKeys::homeActsOnce()
+{
+    QFETCH(int, util);
+    QFETCH(QString, keyboard);
+    m_window->changeCurrentUtil(util);
+    QTRY_VERIFY(util == UTILITY_ID_ADVTOOL || page<CParmLineEdit>()); // the plug-in's own
+    takeKeyboard();
+    if (keyboard == QLatin1String("key pad of a plug-in"))
+        homeInThePadOf(*page<CParmLineEdit>());
+
+    auto* menu = page<CAdvanceMenu>();
+    CParmLineEdit field(QStringLiteral("Name"), QString(), menu);
+    CParmComboBox box(QStringLiteral("Name"), {QStringLiteral("a")}, QString(), menu);
+    QLineEdit text(menu);
+    for (QWidget* control : QVector<QWidget*>{&field, &box, &text})
+        control->show();
+    if (keyboard == QLatin1String("text field"))
+        text.setFocus();
+    else if (keyboard == QLatin1String("list"))
+        box.click();
+    if (keyboard == QLatin1String("key pad"))
+        homeInThePadOf(field);
+    else if (util == UTILITY_ID_ADVTOOL)
+        tap(XK_Home);
+    QTRY_COMPARE(m_window->currentUtil(), UTILITY_ID_BEGIN);
+    QCOMPARE(s_keysSeen, 1);
+}
+
+void TestKeys::aDialogHearsF3NotHome()
+{
+    m_window->changeCurrentUtil(UTILITY_ID_ADVTOOL);
+    CDialog outer; // without a window behind that it could pass its keys on to
+    CDialog inner(&outer);
+    outer.show();
+    inner.show();
+    inner.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&inner));
+    tap(XK_Home);
+    tap(XK_F3); // forwarded at both dialogs, and passed on by one to the other
+    QTRY_COMPARE(s_keysSeen, 1);
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_ADVTOOL);
 }
 
 void TestKeys::keysWithTestApplicationInFront()
@@ -186,5 +296,11 @@ void TestKeys::markedControlGoes()
     QVERIFY(marked());
 }
 
-QTEST_MAIN(TestKeys)
+int main(int argc, char** argv)
+{
+    const CMainApplication application(argc, argv);
+    TestKeys test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_keys.moc"

@@ -41,8 +41,10 @@ xcb_generic_event_t* xcb_wait_for_event(xcb_connection_t* connection)
     if (connection == s_heldUp && s_isReleaseOut)
         s_releasesHandled.tryAcquire(1, MOST_WAIT);
     xcb_generic_event_t* event = next(connection);
-    if (connection == s_heldUp)
+    if (connection == s_heldUp) {
         s_isReleaseOut = event && (event->response_type & 0x7f) == XCB_KEY_RELEASE;
+        s_releasesHandled.tryAcquire(s_releasesHandled.available()); // of earlier ones
+    }
     return event;
 }
 
