@@ -5,6 +5,7 @@
 #include "fakedesktop.h"
 #include "homepage.h"
 #include "pluginman.h"
+#include "pointergrab.h"
 #include "settingmoremenu.h"
 #include "sigtransfer.h"
 #include "startutilwindow.h"
@@ -70,6 +71,12 @@ void CMainWindow::initialize()
 {
     signalInit();
     loadSysSettings();
+    m_pPointerGrab = new CPointerGrab(this);
+    // Touches on the controls do not come to the window itself, and wake the screen all the same.
+    m_pTouchWatch = new CTouchWatch(this);
+    qApp->installEventFilter(m_pTouchWatch);
+    connect(m_pTouchWatch, &CTouchWatch::touched, this, &CMainWindow::wakeupScreen);
+    connect(m_pTouchWatch, &CTouchWatch::dialogsChanged, this, &CMainWindow::updateTouchOwner);
     setScreenLocked(false); // an earlier run may have ended locked, and left its mark
 
     m_pTrans = new QTranslator(this);
@@ -106,10 +113,6 @@ void CMainWindow::initialize()
     m_pPluginMan = new CPluginManager(this);
     createTimers();
 
-    // Touches on the controls do not come to the window itself, and wake the screen all the same.
-    auto* touchWatch = new CTouchWatch(this);
-    qApp->installEventFilter(touchWatch);
-    connect(touchWatch, &CTouchWatch::touched, this, &CMainWindow::wakeupScreen);
     QTimer::singleShot(0, this, &CMainWindow::postLaunch);
     setBackgroundColor(CWidgetStyle::ColorScreen);
 }
@@ -225,20 +228,8 @@ void CMainWindow::moveToWorkingArea(CWidget* widget)
 
 int CMainWindow::execBox(CMessageBox& box)
 {
-    box.adjustSize();
     moveToWorkingAreaCenter(&box);
-    const bool isOverTestApp = m_winVisibleReason == TestAppForeground;
-    // Whoever has the touches, the box needs them; only the lock stands above it.
-    const bool isCalibrating
-        = m_nonInteractiveType == FullScreen && !bIsUILocked && m_prevUtilID == UTILITY_ID_SCREEN;
-    if (!bIsUILocked)
-        setNonInteractiveRegion(RegionNone, QRect());
-    const int answer = box.exec();
-    if (isOverTestApp)
-        procDelayUnlock();
-    else if (isCalibrating && !bIsUILocked && m_prevUtilID == UTILITY_ID_SCREEN)
-        setNonInteractiveRegion(FullScreen, QRect());
-    return answer;
+    return box.exec();
 }
 
 void CMainWindow::closeEvent(QCloseEvent* event)

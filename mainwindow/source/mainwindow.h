@@ -6,6 +6,8 @@
 #include "menustack.h"
 #include "services/sysfailureserv.h"
 #include "statuscodes.h"
+#include "touchstate.h"
+#include "transitions.h"
 #include "utilityid.h"
 #include "widgets/keywatch/keywatch.h"
 #include "widgets/widget/widget.h"
@@ -15,6 +17,7 @@
 #include <QPointer>
 
 #include <memory>
+#include <optional>
 
 class CAdvanceMenu;
 class CDeviceMonitor;
@@ -22,6 +25,7 @@ class CFakeDesktop;
 class CHomePage;
 class CMessageBox;
 class CPluginManager;
+class CPointerGrab;
 class CPowerMonitor;
 class CSettingMoreMenu;
 class CStartUtilWindow;
@@ -32,6 +36,7 @@ class CSystemSettingsMenu;
 class CTaskManager;
 class CToolBox;
 class CTopBar;
+class CTouchWatch;
 class QSocketNotifier;
 class QTimer;
 class QTranslator;
@@ -46,7 +51,10 @@ class QTranslator;
  * wiring), _menu, _switching, _visibility, _launch, _language, _signals, _navigation, _lock, _devices,
  * _screen.
  *
- * A new built-in page is one line in createPages(); the utilities without one are logged as not available.
+ * Whatever changes the page or the screen is a transition, one at a time (transitions.h). Who gets a touch is
+ * one rule over one record (touchstate.h), applied by updateTouchOwner() after every change of the record.
+ *
+ * A new built-in page is one line in createPages(); for a utility without one a box says so.
  */
 class CMainWindow : public CWidget
 {
@@ -88,8 +96,8 @@ public:
     void moveToWorkingArea(CWidget* widget);
 
     /**
-     * Drops touches inside a region of the screen, in this process and, for the whole screen, by a pointer
-     * grab.
+     * Asks for a region of the screen in which touches are dropped, in this process and, for the whole
+     * screen, by a pointer grab. It holds while nothing else decides about touches (touchstate.h).
      * @param region the region for CutomizeRegion, in screen pixels; else ignored
      */
     void setNonInteractiveRegion(NonInteractiveRegionType type, const QRect& region);
@@ -132,6 +140,7 @@ signals:
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     /** The shell stays, whoever asks for its window to be closed; only a signal ends it. */
@@ -177,6 +186,18 @@ private:
     // Switching
     bool isUtilAvailable(UtilityID id) const;
     bool confirmCalibration();
+    void tellNotAvailable(UtilityID id);
+    void chooseItem(int id);
+    void openUtil(UtilityID id, bool isAsking);
+    // The transitions themselves, whoever asked for them.
+    void switchTo(UtilityID id);
+    void goHome();
+    void closeCurrent();
+    /** @return what to tell the user, nothing when the plug-in is up */
+    std::optional<QString> loadAndStart(UtilityID id);
+    void applyVisible(bool visible);
+    void applyLanguage(LanguageCode code);
+
     void showInnerPage(CWidget* page);
     void showHomePage();
     void leaveUtilPage(UtilityID id);
@@ -190,14 +211,21 @@ private:
     void updateCurrentUtilPage();
 
     // Visibility
+    void setVisibleReason(VisibleReason reason);
     void setWindowHidden(VisibleReason reason);
     void setWindowShown(VisibleReason reason);
     void setBarsVisible(bool visible);
     void setDialogsAside(bool aside);
     void blockAppAreaUpdate();
     void recoverAppAreaUpdate();
+    /** What was shown and hidden so far is on the screen when this returns. */
+    void paintNow();
     void grabFakeDesktop();
     void setFakeDesktopVisible(bool visible);
+
+    // Touches
+    void updateTouchOwner();
+    void publishRegion(NonInteractiveRegionType type);
 
     // Late start-up and shutdown
     void waitForFirstPaint();
@@ -219,6 +247,11 @@ private:
     // Information pages
     bool isDlgPopupOnTestApp() const;
     void askForInfoPage(InquireSysStatCode code);
+    // What the slots ask for, once no transition is under way.
+    void openPowerInfo();
+    void openStorageInfo();
+    void serveInquiry();
+    void reportFailure();
     /** An information page is made when it is first asked for: building them takes a part of the start-up. */
     template <typename Page> Page* makeInfoPage(int windowID);
     void execPowerPage();
@@ -250,8 +283,14 @@ private:
     LanguageCode m_prevLangCode = LANGUAGE_BEGIN;
     VisibleReason m_winVisibleReason = TestAppBackground;
     TestAppAction m_testAppAction = ActionNone;
-    NonInteractiveRegionType m_nonInteractiveType = RegionNone;
+    CTransitions m_transitions;
+    TouchState m_touchState;
+    NonInteractiveRegionType m_nonInteractiveType = RegionNone; // as published
     QRect m_nonInteractiveRegion;
+    NonInteractiveRegionType m_requestedType = RegionNone; // asked for by setNonInteractiveRegion()
+    QRect m_requestedRegion;
+    CTouchWatch* m_pTouchWatch = nullptr;
+    CPointerGrab* m_pPointerGrab = nullptr;
     bool bIsUILocked = false;
     bool bIsAutoTSCal = false;
     bool bIsClientInBackWithPopup = false; // an information page waits while a test application is in front

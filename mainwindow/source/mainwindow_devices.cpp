@@ -104,6 +104,11 @@ void CMainWindow::askForInfoPage(InquireSysStatCode code)
 
 void CMainWindow::showPowerInfo()
 {
+    m_transitions.request(CTransitions::PowerPage, [this] { openPowerInfo(); });
+}
+
+void CMainWindow::openPowerInfo()
+{
     if (CUICommUtils::isTestAppDlgPopup())
         return;
     if (isDlgPopupOnTestApp()) {
@@ -118,6 +123,11 @@ void CMainWindow::showPowerInfo()
 }
 
 void CMainWindow::showStorageInfo()
+{
+    m_transitions.request(CTransitions::StoragePage, [this] { openStorageInfo(); });
+}
+
+void CMainWindow::openStorageInfo()
 {
     if (CUICommUtils::isTestAppDlgPopup() || isFSCaptureRunning() || isWSARunning())
         return;
@@ -137,6 +147,11 @@ void CMainWindow::showBTInfo()
 }
 
 void CMainWindow::inquireSystemState()
+{
+    m_transitions.request(CTransitions::Inquiry, [this] { serveInquiry(); });
+}
+
+void CMainWindow::serveInquiry()
 {
     const bool isPower = m_pInqSysStatCode == INQUIRE_SYS_STAT_POWER;
     if (m_isInquiryServed || (!isPower && m_pInqSysStatCode != INQUIRE_SYS_STAT_USB_DISK))
@@ -197,9 +212,7 @@ void CMainWindow::dlgPopon()
 {
     const auto* dialog = qobject_cast<CDialog*>(sender());
     qDebug().noquote() << QStringLiteral("Dialog Open, ID:%1").arg(dialog ? dialog->getWindowID() : -1);
-    // A page that another process asked for does not unlock the touch screen.
-    if (!bIsUILocked)
-        setNonInteractiveRegion(RegionNone, QRect());
+    updateTouchOwner(); // it is the page's, but for the lock
 }
 
 void CMainWindow::dlgPopoff()
@@ -230,9 +243,8 @@ void CMainWindow::endInquiry()
 
 void CMainWindow::restoreLastUtilState()
 {
-    // The page took the whole screen's touches; the test application gets its part back.
     m_curUtilID = m_prevUtilID;
-    procDelayUnlock();
+    updateTouchOwner(); // the test application gets its part of the screen back
 }
 
 void CMainWindow::installUSBDrive()
@@ -265,6 +277,11 @@ void CMainWindow::updateWIFIStatus(const WIFIStatus& status)
 }
 
 void CMainWindow::selftestPopup()
+{
+    m_transitions.request(CTransitions::Failure, [this] { reportFailure(); });
+}
+
+void CMainWindow::reportFailure()
 {
     const QString indicator = QString::fromLatin1(FAILURE_INDICATOR);
     if (!QFile::exists(indicator))

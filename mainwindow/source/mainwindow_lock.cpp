@@ -6,12 +6,13 @@
 #include "systemsettings.h"
 #include "widgets/messagebox/messagebox.h"
 
-#include <QApplication>
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QSaveFile>
 #include <QScopeGuard>
 #include <QScreen>
@@ -36,7 +37,7 @@ void CMainWindow::lockScreen()
     } else if (m_saveScreenCount < settings->getAttribute(CSystemSettings::SaveScreenMaxNum).toInt()) {
         saveScreen();
     } else {
-        reportScreenLimit();
+        m_transitions.request(CTransitions::ScreenLimit, [this] { reportScreenLimit(); });
     }
 }
 
@@ -95,11 +96,6 @@ void CMainWindow::setScreenLocked(bool locked)
     } else if (!locked && mark.exists()) {
         mark.remove();
     }
-    // A dialog over the test application needs the touches; with its end the application has them again.
-    const auto* dialog = qobject_cast<CDialog*>(QApplication::activeModalWidget());
-    const bool isDialogUp = dialog && !dialog->isAside();
-    setNonInteractiveRegion(locked ? FullScreen : RegionNone, QRect());
-    // After that: the grab of the whole screen has to go, or the test application would get no touch.
-    if (!locked && m_winVisibleReason == TestAppForeground && !isDialogUp)
-        setNonInteractiveRegion(ExcludeBottomBar, QRect());
+    m_touchState.isLocked = locked;
+    updateTouchOwner();
 }

@@ -1,52 +1,64 @@
-// The region of the screen that takes no touches.
+// Who gets a touch: the window's record of it, and the region of the screen that takes none.
 
 #include "mainwindow.h"
 
-#include <QApplication>
-#include <QDebug>
-#include <QX11Info>
+#include "pointergrab.h"
+#include "touchwatch.h"
 
-#include "startup.h"
+#include <QApplication>
 
 namespace {
 
-const QRect WHOLE_SCREEN(0, 0, 800, 480);
-const QRect ABOVE_BOTTOM_BAR(0, 0, 800, 460);
-
-void setPointerGrab(bool on)
+QRect regionOf(CMainWindow::NonInteractiveRegionType type, const QRect& custom)
 {
-    Display* display = QX11Info::display();
-    if (!display)
-        return;
-    const Window root = DefaultRootWindow(display);
-    if (on)
-        XGrabButton(display, AnyButton, AnyModifier, root, False, ButtonPressMask, GrabModeAsync,
-            GrabModeAsync, None, None);
-    else
-        XUngrabButton(display, AnyButton, AnyModifier, root);
-    XFlush(display);
+    switch (type) {
+    case CMainWindow::FullScreen:
+        return {0, 0, 800, 480};
+    case CMainWindow::ExcludeBottomBar:
+        return {0, 0, 800, 460};
+    case CMainWindow::CutomizeRegion:
+        return custom;
+    default:
+        return {};
+    }
 }
 
 } // namespace
 
 void CMainWindow::setNonInteractiveRegion(NonInteractiveRegionType type, const QRect& region)
 {
-    m_nonInteractiveType = type;
-    switch (type) {
-    case FullScreen:
-        m_nonInteractiveRegion = WHOLE_SCREEN;
-        setPointerGrab(true);
+    m_requestedType = type;
+    m_requestedRegion = region;
+    updateTouchOwner();
+}
+
+void CMainWindow::updateTouchOwner()
+{
+    m_touchState.isDialogUp = m_pTouchWatch->isDialogUp();
+    switch (touchOwner(m_touchState)) {
+    case TouchOwner::Nobody:
+        publishRegion(FullScreen);
         break;
-    case ExcludeBottomBar:
-        m_nonInteractiveRegion = ABOVE_BOTTOM_BAR;
+    case TouchOwner::Shell:
+        publishRegion(RegionNone);
         break;
-    case CutomizeRegion:
-        m_nonInteractiveRegion = region;
+    case TouchOwner::TestApplication:
+        m_pPointerGrab->set(false); // the grab of the whole screen would keep its touches from it
+        publishRegion(ExcludeBottomBar);
         break;
-    default:
-        m_nonInteractiveRegion = QRect();
-        setPointerGrab(false);
+    case TouchOwner::AsRequested:
+        publishRegion(m_requestedType);
         break;
     }
+}
+
+void CMainWindow::publishRegion(NonInteractiveRegionType type)
+{
+    m_nonInteractiveType = type;
+    m_nonInteractiveRegion = regionOf(type, m_requestedRegion);
+    if (type == FullScreen)
+        m_pPointerGrab->set(true);
+    else if (type != ExcludeBottomBar && type != CutomizeRegion) // these two leave the grab as it is
+        m_pPointerGrab->set(false);
     qApp->setProperty("NonInteractiveRegion", m_nonInteractiveRegion);
 }

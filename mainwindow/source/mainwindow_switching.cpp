@@ -2,6 +2,7 @@
 
 #include "mainwindow.h"
 
+#include "captionpath.h"
 #include "homepage.h"
 #include "pluginman.h"
 #include "startutilwindow.h"
@@ -19,11 +20,6 @@
 namespace {
 
 constexpr int BROWSER_INPUT_LOCK = 2000; // ms; the browser alone gets it
-
-void processEventsButInput()
-{
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
 
 } // namespace
 
@@ -44,43 +40,64 @@ bool CMainWindow::confirmCalibration()
     return execBox(box) == CMessageBox::Ok;
 }
 
+void CMainWindow::tellNotAvailable(UtilityID id)
+{
+    qWarning("Utility %d is not available", int(id));
+    const QStringList path = captionPath(id);
+    if (path.size() < 2)
+        return; // it has no name, and nothing on the screen leads to it
+    CMessageBox box(
+        path.last(), tr("%1 is not available on this unit.").arg(path.last()), CMessageBox::Ok, this);
+    execBox(box);
+}
+
 void CMainWindow::changeCurrentUtil(int id)
 {
     m_curUtilID = UtilityID(id);
     if (id < UTILITY_ID_BEGIN || id > UTILITY_ID_END)
         return;
-    const auto util = UtilityID(id);
-    const bool isPlugin = m_pPluginMan->isPlugin(util);
-    if (util == UTILITY_ID_SCREEN && !bIsAutoTSCal && !confirmCalibration())
-        return;
-    if (util == m_prevUtilID && isPlugin)
-        return;
-    if (!isUtilAvailable(util)) {
-        qWarning("Utility %d is not available", id);
-        return;
-    }
+    const bool isAsking = id == UTILITY_ID_SCREEN && !bIsAutoTSCal;
+    m_transitions.request(CTransitions::Utility, [this, id, isAsking] { openUtil(UtilityID(id), isAsking); });
+}
 
+void CMainWindow::openUtil(UtilityID id, bool isAsking)
+{
+    if (isAsking && !confirmCalibration())
+        return;
+    if (!isUtilAvailable(id))
+        tellNotAvailable(id);
+    else
+        m_transitions.perform([this, id] { switchTo(id); });
+}
+
+void CMainWindow::switchTo(UtilityID id)
+{
+    const bool isPlugin = m_pPluginMan->isPlugin(id);
+    if (id == m_prevUtilID && isPlugin)
+        return;
     clearFocusWidget();
     pushMenuEntry(id, 1);
+    m_pSwitchAppWnd->finish(); // else the part of it beside the new page would stay
     if (isPlugin) {
-        startPlugin(util);
+        startPlugin(id);
     } else {
         leaveUtilPage(m_prevUtilID);
-        showInnerPage(m_innerPages.value(util));
+        showInnerPage(m_innerPages.value(id));
     }
-    updateNavigateInfo(util);
-    m_prevUtilID = util;
+    updateNavigateInfo(id);
+    m_prevUtilID = id;
 }
 
 void CMainWindow::startPlugin(UtilityID id)
 {
     leaveUtilPage(m_prevUtilID);
-    processEventsButInput(); // the old page is off the screen before the load blocks it
+    paintNow(); // the old page is off the screen before the load blocks it
     leavePlugin();
     m_pStartUtilWnd->showMessage(m_pPluginMan->getPluginName(id));
     m_pStartUtilWnd->raise();
     if (id == UTILITY_ID_BROWSER) {
-        setNonInteractiveRegion(FullScreen, QRect());
+        m_touchState.isBrowserStarting = true;
+        updateTouchOwner();
         QTimer::singleShot(BROWSER_INPUT_LOCK, this, &CMainWindow::procDelayUnlock);
     }
     m_CallerID = m_prevUtilID;
@@ -90,32 +107,41 @@ void CMainWindow::startPlugin(UtilityID id)
 
 void CMainWindow::utilReady(int id)
 {
-    // The user may have gone elsewhere while the start window was up, and even come back: then two words of
-    // readiness arrive, and the first one counts.
-    const auto util = UtilityID(id);
-    if (util != m_prevUtilID || !m_isUtilStarting)
-        return;
-    m_isUtilStarting = false;
+    m_transitions.request(CTransitions::Ready, [this, id] {
+        // The user may have gone elsewhere while the start window was up, and even come back: then two words
+        // of readiness arrive, and the first one counts.
+        const auto util = UtilityID(id);
+        if (util != m_prevUtilID || !m_isUtilStarting)
+            return;
+        std::optional<QString> error;
+        m_transitions.perform([&] { error = loadAndStart(util); });
+        if (error)
+            showPluginError(*error);
+    });
+}
 
+std::optional<QString> CMainWindow::loadAndStart(UtilityID id)
+{
+    m_isUtilStarting = false;
     m_pPluginMan->clearError(); // what an earlier utility left
-    UtilInterface* plugin = m_pPluginMan->loadPlugin(util);
-    if (!plugin) {
-        showPluginError(m_pPluginMan->errorString());
-        return;
-    }
-    if (util == UTILITY_ID_SCREEN)
-        setNonInteractiveRegion(FullScreen, QRect()); // the calibration owns all input
+    UtilInterface* plugin = m_pPluginMan->loadPlugin(id);
+    if (!plugin)
+        return m_pPluginMan->errorString();
+    m_touchState.isCalibrating = id == UTILITY_ID_SCREEN; // it owns all input
+    updateTouchOwner();
     plugin->setCallerID(m_CallerID);
     const bool isStarted = plugin->start(this);
     if (QObject* object = plugin->getObject())
         connectPluginSignals(object);
-    if (!isStarted) {
-        qWarning("Plug-in %d did not start", id);
-        m_pPluginMan->unloadPlugin();
-        if (util == UTILITY_ID_SCREEN)
-            procDelayUnlock(); // nobody is there to own the input, and the box needs it
-        showPluginError(tr("The utility could not be started."));
+    if (isStarted) {
+        m_pStartUtilWnd->hide(); // a page that does not fill its ground would show it
+        return {};
     }
+    qWarning("Plug-in %d did not start", int(id));
+    m_pPluginMan->unloadPlugin();
+    m_touchState.isCalibrating = false; // nobody is there to own the input, and the box needs it
+    updateTouchOwner();
+    return tr("The utility could not be started.");
 }
 
 void CMainWindow::connectPluginSignals(QObject* object)
@@ -146,7 +172,10 @@ void CMainWindow::showPluginError(const QString& text)
     // A test application may have come while the utility was starting: the box waits for the shell to come
     // back.
     if (m_winVisibleReason == TestAppForeground)
-        connect(&box, &CDialog::popOn, &box, [&box] { box.setAside(true); });
+        connect(&box, &CDialog::popOn, this, [this, &box] {
+            box.setAside(true);
+            updateTouchOwner();
+        });
     execBox(box);
 }
 
@@ -157,13 +186,10 @@ void CMainWindow::pluginRequestToClose()
 
 void CMainWindow::procDelayUnlock()
 {
-    if (bIsUILocked)
-        return; // only F4 ends that, and then sets the region
     if (m_winVisibleReason == OtherReason)
         return;
-    setNonInteractiveRegion(RegionNone, QRect()); // with the grab of the whole screen
-    if (m_winVisibleReason == TestAppForeground)
-        setNonInteractiveRegion(ExcludeBottomBar, QRect());
+    m_touchState.isBrowserStarting = false;
+    updateTouchOwner();
 }
 
 void CMainWindow::leavePlugin()
@@ -171,13 +197,12 @@ void CMainWindow::leavePlugin()
     m_isUtilStarting = false;
     m_pStartUtilWnd->hide();
     m_pPluginMan->unloadPlugin();
-    if (m_prevUtilID == UTILITY_ID_SCREEN)
-        procDelayUnlock(); // the calibration owned all input
+    m_touchState.isCalibrating = false;
+    updateTouchOwner();
 }
 
 void CMainWindow::leaveUtilPage(UtilityID id)
 {
-    processEventsButInput();
     if (m_pPluginMan->isPlugin(id))
         leavePlugin();
     else if (m_pInnerUtilpage)

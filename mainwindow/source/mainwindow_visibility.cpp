@@ -7,6 +7,7 @@
 #include "widgets/dialog/dialog.h"
 #include "widgets/toolbox/toolbox.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QThread>
@@ -24,6 +25,12 @@ constexpr int AREA_HEIGHT = 460;
 
 void CMainWindow::setWindowVisible(bool visible)
 {
+    m_transitions.request(CTransitions::Visibility,
+        [this, visible] { m_transitions.perform([this, visible] { applyVisible(visible); }); });
+}
+
+void CMainWindow::applyVisible(bool visible)
+{
     if (visible) {
         QThread::msleep(SETTLE_BEFORE_SHOWING);
         recoverAppAreaUpdate();
@@ -36,8 +43,6 @@ void CMainWindow::setWindowVisible(bool visible)
         repaint();
         setDialogsAside(false);
         endInquiry(); // the test application went while its page was open
-        if (m_nonInteractiveType == ExcludeBottomBar)
-            procDelayUnlock(); // that was for the test application
     } else {
         setDialogsAside(true);
         hideCurrentUtilPage();
@@ -60,11 +65,19 @@ void CMainWindow::setDialogsAside(bool aside)
         if (dialog->isVisible())
             dialog->setAside(aside);
     }
+    updateTouchOwner();
+}
+
+void CMainWindow::setVisibleReason(VisibleReason reason)
+{
+    m_winVisibleReason = reason;
+    m_touchState.isTestAppInFront = reason == TestAppForeground;
+    updateTouchOwner();
 }
 
 void CMainWindow::setWindowHidden(VisibleReason reason)
 {
-    m_winVisibleReason = reason;
+    setVisibleReason(reason);
     if (reason == TestAppForeground)
         setBarsVisible(false);
     else if (reason == OtherReason)
@@ -73,7 +86,7 @@ void CMainWindow::setWindowHidden(VisibleReason reason)
 
 void CMainWindow::setWindowShown(VisibleReason reason)
 {
-    m_winVisibleReason = reason;
+    setVisibleReason(reason);
     if (reason == TestAppBackground)
         setBarsVisible(true);
     else if (reason == OtherReason)
@@ -92,6 +105,24 @@ void CMainWindow::recoverAppAreaUpdate()
     const QRect window = rect();
     setMask(QRegion(QPolygon({window.topLeft(), QPoint(window.right() + 2, window.top()),
         QPoint(window.right() + 2, window.bottom() + 2), QPoint(window.left(), window.bottom() + 2)})));
+}
+
+void CMainWindow::resizeEvent(QResizeEvent* event)
+{
+    CWidget::resizeEvent(event);
+    if (mask().isEmpty())
+        return;
+    if (m_winVisibleReason == TestAppForeground)
+        blockAppAreaUpdate();
+    else
+        recoverAppAreaUpdate();
+}
+
+void CMainWindow::paintNow()
+{
+    // Only the painting: an event loop here would let the next switch into the middle of this one.
+    QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
+    flushScreen();
 }
 
 void CMainWindow::grabFakeDesktop()

@@ -32,6 +32,10 @@ public:
     /** The application index property of a window; -1 when it is not one 32-bit integer. */
     int appIndexOf(unsigned long window) const;
 
+    enum Grab { GrabButton, GrabPointer };
+    /** Holds one button on the root window, or the whole pointer, for as long as the connection lasts. */
+    bool grab(Grab what) const;
+
     /** Touches a point of the screen, as the touch screen's driver does: pressed and released. */
     void touch(const QPoint& at) const;
 
