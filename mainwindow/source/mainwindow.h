@@ -10,6 +10,7 @@
 #include "touchcontrol.h"
 #include "transitions.h"
 #include "utilityid.h"
+#include "widgets/keywatch/keywatch.h"
 #include "widgets/widget/widget.h"
 #include "windowhost.h"
 
@@ -288,6 +289,7 @@ private:
     std::unique_ptr<CMenuStack> m_pMenuStack;
     QPointer<QWidget> m_pPrevFocusWidget; // carries the focus marker
     QElapsedTimer m_keyEventTime; // since the last key press seen
+    KeyMoment m_lastPress; // by which one that comes a second time is told
     int m_arrowKeyStepLen = 50; // pixels of one search step
 
     CTopBar* m_pTopBar = nullptr;
