@@ -5,6 +5,7 @@
 #include "commutils.h"
 #include "devicemonitor.h"
 #include "powermonitor.h"
+#include "standardstreams.h"
 #include "storagemeter.h"
 #include "storagemonitor.h"
 #include "systemsettings.h"
@@ -15,8 +16,9 @@
 #include <QSignalBlocker>
 #include <QTimer>
 
-#include <cstdio>
 #include <cstdlib>
+#include <limits>
+#include <unistd.h>
 
 namespace {
 
@@ -46,6 +48,13 @@ QVariant setting(CSystemSettings::SystemAttribute attribute)
     return CSystemSettings::globalSettings()->getAttribute(attribute);
 }
 
+/** The source's time in ms, as far as a timer goes: what the setting holds may come from anywhere. */
+int backlightTime(const BacklightSource& source)
+{
+    constexpr qlonglong LONGEST = std::numeric_limits<int>::max() / 1000;
+    return int(qBound(0LL, setting(source.time).toLongLong(), LONGEST)) * 1000;
+}
+
 } // namespace
 
 void CMainWindow::wakeupScreen()
@@ -59,7 +68,7 @@ void CMainWindow::wakeupScreen()
     timer->stop();
     // The source may have changed a moment ago: a time never taken over would be none, and end at once.
     if (timer->interval() == 0)
-        timer->setInterval(setting(source.time).toInt() * 1000);
+        timer->setInterval(backlightTime(source));
     timer->start();
 }
 
@@ -82,10 +91,9 @@ void CMainWindow::checkSystemSettings()
         timer->stop();
         return;
     }
-    const int seconds = setting(source.time).toInt();
     if (setting(source.changed).toBool()) {
         CSystemSettings::globalSettings()->setAttribute(source.changed, false, false);
-        timer->start(seconds * 1000);
+        timer->start(backlightTime(source));
     }
 }
 
@@ -272,8 +280,7 @@ void CMainWindow::selftestPopup()
     m_pFailureServTimer->stop();
     QString failure;
     FailureServ.QueryLatestSysFailure(failure);
-    std::printf("error = %s\n", qUtf8Printable(failure));
-    std::fflush(stdout);
+    standardstreams::write(STDOUT_FILENO, QByteArrayLiteral("error = ") + failure.toUtf8() + '\n');
 
     CMessageBox box(tr("System Error"),
         tr("Error Code: %1").arg(failure) + tr("Please contact customer service!"), CMessageBox::Ok, this);

@@ -7,7 +7,6 @@
 #include "startutilwindow.h"
 #include "switchappwindow.h"
 #include "taskmanager.h"
-#include "utilinterface.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
@@ -98,16 +97,14 @@ void CMainWindow::utilReady(int id)
     m_isUtilStarting = false;
 
     m_pPluginMan->clearError(); // what an earlier utility left
-    UtilInterface* plugin = m_pPluginMan->loadPlugin(util);
-    if (!plugin) {
+    if (!m_pPluginMan->loadPlugin(util)) {
         showPluginError(m_pPluginMan->errorString());
         return;
     }
     if (util == UTILITY_ID_SCREEN)
         setNonInteractiveRegion(FullScreen, QRect()); // the calibration owns all input
-    plugin->setCallerID(m_CallerID);
-    const bool isStarted = plugin->start(this);
-    if (QObject* object = plugin->getObject())
+    const bool isStarted = m_pPluginMan->startPlugin(this, m_CallerID);
+    if (QObject* object = m_pPluginMan->getPluginObject())
         connectPluginSignals(object);
     if (!isStarted) {
         qWarning("Plug-in %d did not start", id);

@@ -23,11 +23,11 @@ static int openDescriptors()
 static Lines linesOf(const QStringList& argv, int timeoutMs = 20000)
 {
     Lines lines;
-    const bool started = readCommandLines(argv, timeoutMs, [&lines](const QString& line) {
+    const ReadResult result = readCommandLines(argv, timeoutMs, [&lines](const QString& line) {
         lines << line;
         return true;
     });
-    if (!started)
+    if (result == ReadResult::NotStarted)
         return {"not started"_s};
     return lines;
 }
@@ -125,7 +125,7 @@ void tst_DetachedCommand::startFailures()
         qPrintable(command.errorText()));
     QCOMPARE(command.pid(), -1);
     QCOMPARE(command.fd(), -1);
-    QVERIFY(!readCommandLines(argv, 1000, [](const QString&) { return true; }));
+    QCOMPARE(readCommandLines(argv, 1000, [](const QString&) { return true; }), ReadResult::NotStarted);
     QCOMPARE(openDescriptors(), before);
 }
 
