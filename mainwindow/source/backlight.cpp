@@ -6,6 +6,8 @@
 #include <QSignalBlocker>
 #include <QTimer>
 
+#include <limits>
+
 namespace {
 
 /** The settings that belong to one power source. */
@@ -33,9 +35,11 @@ QVariant setting(CSystemSettings::SystemAttribute attribute)
     return CSystemSettings::globalSettings()->getAttribute(attribute);
 }
 
+/** The source's time in ms, as far as a timer goes: what the setting holds may come from anywhere. */
 int interval(const BacklightSource& source)
 {
-    return setting(source.time).toInt() * 1000;
+    constexpr qlonglong LONGEST = std::numeric_limits<int>::max() / 1000;
+    return int(qBound(0LL, setting(source.time).toLongLong(), LONGEST)) * 1000;
 }
 
 } // namespace

@@ -138,14 +138,13 @@ bool CDeviceMonitor::inquireWIFIStatus(WIFIStatus* status)
     status->signalStrength = 0;
     bool isAdapterMissing = false;
     int lines = 0;
-    const QDeadlineTimer deadline(WifiTimeoutMs);
-    const bool started = readCommandLines(
+    const ReadResult result = readCommandLines(
         {QStringLiteral("iwconfig"), QStringLiteral("wlan0")}, WifiTimeoutMs, [&](const QString& line) {
             isAdapterMissing = !applyIwconfigLine(*status, line);
             return !isAdapterMissing && ++lines < WifiMaxLines;
         });
     // Half an answer is none: the adapter may be there and linked.
-    return started && (isAdapterMissing || (lines < WifiMaxLines && !deadline.hasExpired()));
+    return isAdapterMissing || result == ReadResult::Ended;
 }
 
 bool CDeviceMonitor::inquireOPMStatus(OPMStatus*)

@@ -20,8 +20,13 @@ public:
     /** The window keys are forwarded to; not owned, null forwards nothing. */
     void setMainWindowInstance(CMainWindow* window) { m_pMainWindow = window; }
 
+    /** Ends what an event handler throws, mostly one of a plug-in: it is logged, and the event counts as
+     * taken. */
+    bool notify(QObject* receiver, QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void reportException(const QMetaObject* receiver, const char* what) const;
+
     CMainWindow* m_pMainWindow = nullptr;
 };

@@ -10,14 +10,15 @@
 #include "infopages.h"
 #include "screenshots.h"
 #include "shellbox.h"
+#include "standardstreams.h"
 #include "systemsettings.h"
 
 #include <QDebug>
 #include <QFile>
 #include <QTimer>
 
-#include <cstdio>
 #include <cstdlib>
+#include <unistd.h>
 
 namespace {
 
@@ -149,8 +150,7 @@ void CMainWindow::reportFailure()
     m_pFailureServTimer->stop();
     QString failure;
     FailureServ.QueryLatestSysFailure(failure);
-    std::printf("error = %s\n", qUtf8Printable(failure));
-    std::fflush(stdout);
+    standardstreams::write(STDOUT_FILENO, QByteArrayLiteral("error = ") + failure.toUtf8() + '\n');
     if (execShellBox(ShellBox::SystemFailure, *this, tr("System Error"),
             tr("Error Code: %1").arg(failure) + tr("Please contact customer service!"))) {
         QFile::remove(indicator);

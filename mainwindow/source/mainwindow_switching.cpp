@@ -9,7 +9,6 @@
 #include "startutilwindow.h"
 #include "switchappwindow.h"
 #include "taskmanager.h"
-#include "utilinterface.h"
 #include "widgets/widgetstack/kpwidgetstack.h"
 
 #include <QCoreApplication>
@@ -116,13 +115,11 @@ std::optional<QString> CMainWindow::loadAndStart(UtilityID id)
 {
     m_isUtilStarting = false;
     m_pPluginMan->clearError(); // what an earlier utility left
-    UtilInterface* plugin = m_pPluginMan->loadPlugin(id);
-    if (!plugin)
+    if (!m_pPluginMan->loadPlugin(id))
         return m_pPluginMan->errorString();
     m_pTouches->set(&TouchState::isCalibrating, id == UTILITY_ID_SCREEN); // it owns all input
-    plugin->setCallerID(m_CallerID);
-    const bool isStarted = plugin->start(this);
-    if (QObject* object = plugin->getObject())
+    const bool isStarted = m_pPluginMan->startPlugin(this, m_CallerID);
+    if (QObject* object = m_pPluginMan->getPluginObject())
         connectPluginSignals(object);
     if (isStarted) {
         m_pStartUtilWnd->hide(); // a page that does not fill its ground would show it
