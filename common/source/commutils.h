@@ -72,6 +72,8 @@ public:
     static LanguageCode toLangCode(const QString& text);
     /** Full path of the language's translation file, below the application's directory. */
     static QString getTranslateFileName(LanguageCode code);
+    /** Loads that file; one that does not load leaves the translator empty and is logged. */
+    static void loadTranslation(QTranslator& translator, LanguageCode code);
     /** The font for texts of the language; needs a QGuiApplication. */
     static QFont getLangFont(LanguageCode code);
     /** Logs the language's name. */
