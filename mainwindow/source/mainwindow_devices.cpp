@@ -255,8 +255,12 @@ void CMainWindow::updatePowerStatus(const PowerStatus& status)
 void CMainWindow::updateStorageStatus(const StorageStatus& status)
 {
     m_storeStat = status;
-    if (m_pStorageMonitor && m_pStorageMonitor->isVisible())
+    if (!m_pStorageMonitor)
+        return;
+    if (m_pStorageMonitor->isVisible())
         showMeasuredStorage(m_pStorageMeter->measureWithin(status, STORAGE_REFRESH_WAIT));
+    else
+        m_pStorageMeter->note(status);
 }
 
 void CMainWindow::updateWIFIStatus(const WIFIStatus& status)
