@@ -225,7 +225,6 @@ void CMainWindow::moveToWorkingArea(CWidget* widget)
 
 int CMainWindow::execBox(CMessageBox& box)
 {
-    box.adjustSize();
     moveToWorkingAreaCenter(&box);
     const bool isOverTestApp = m_winVisibleReason == TestAppForeground;
     // Whoever has the touches, the box needs them; only the lock stands above it.
