@@ -59,6 +59,20 @@
         <comment>value</comment>
         <translation>inconnu</translation>
     </message>
+    <message>
+        <source>IPv4 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>Adresse IPv4 de %1</translation>
+    </message>
+    <message>
+        <source>IPv6 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>Adresse IPv6 de %1</translation>
+    </message>
+    <message>
+        <source>Network address</source>
+        <translation>Adresse réseau</translation>
+    </message>
 </context>
 <context>
     <name>CAboutPlugin</name>
