@@ -4,7 +4,6 @@
 
 #include "devicemonitor.h"
 #include "pluginman.h"
-#include "utilinterface.h"
 
 #include <QDebug>
 #include <QEvent>
@@ -103,6 +102,7 @@ void CMainWindow::postLaunch()
         return;
     m_pDevMonitor->start(QThread::InheritPriority);
     m_pDevMonitor->wakeupScreen(m_powerStat.bIsBat, 1);
+    m_innerPages.runLaunchWork();
     autoLoadPlugins();
     QThread::msleep(LAUNCH_SETTLE);
     m_pSystemTimer->start();
@@ -113,7 +113,7 @@ void CMainWindow::postLaunch()
 void CMainWindow::autoLoadPlugins()
 {
     for (const UtilityID id : RESIDENT_PLUGINS) {
-        if (UtilInterface* plugin = m_pPluginMan->loadPlugin(id))
-            plugin->bkgRun(this);
+        if (m_pPluginMan->loadPlugin(id))
+            m_pPluginMan->runPluginInBackground(this);
     }
 }

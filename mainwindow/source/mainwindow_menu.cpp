@@ -7,10 +7,10 @@
 #include "homepage.h"
 #include "pluginman.h"
 #include "services/processutils.h"
+#include "shellbox.h"
 #include "startutilwindow.h"
 #include "switchappwindow.h"
 #include "topbar.h"
-#include "widgets/messagebox/messagebox.h"
 #include "widgets/toolbox/toolbox.h"
 #include "widgets/widgetstack/kpwidgetstack.h"
 #include "widgets/widgetstyle/widgetstyle.h"
@@ -126,18 +126,13 @@ void CMainWindow::itemChanged(int id)
 void CMainWindow::chooseItem(int id)
 {
     if (id == UTILITY_ID_USB_BROWSER) {
-        if (isFSCaptureRunning() || isWSARunning()) {
+        if (isCaptureRunning()) {
             markToolBoxItem();
             return;
         }
         if (!m_storeStat.bIsPlugged) {
-            CMessageBox box(
-                tr("Error"), tr("Cannot find USB drive attached to the unit!"), CMessageBox::Ok, this);
-            box.setMessageAlignment(Qt::AlignCenter);
-            box.setTitleBackgroundColor(CWidgetStyle::ColorAlert);
-            box.setTitleTextSize(20);
-            box.setMessageTextColor(9);
-            execBox(box);
+            execShellBox(
+                ShellBox::NoUsbDrive, *this, tr("Error"), tr("Cannot find USB drive attached to the unit!"));
             triggerHome();
             return;
         }

@@ -5,12 +5,11 @@
 #include "captionpath.h"
 #include "homepage.h"
 #include "pluginman.h"
+#include "shellbox.h"
 #include "startutilwindow.h"
 #include "switchappwindow.h"
 #include "taskmanager.h"
-#include "utilinterface.h"
-#include "widgets/messagebox/messagebox.h"
-#include "widgets/widgetstyle/widgetstyle.h"
+#include "widgets/widgetstack/kpwidgetstack.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -30,14 +29,8 @@ bool CMainWindow::isUtilAvailable(UtilityID id) const
 
 bool CMainWindow::confirmCalibration()
 {
-    CMessageBox box(tr("Warning"), tr("Proceed with touch screen calibration?"),
-        CMessageBox::Ok | CMessageBox::Cancel, this);
-    box.setMessageAlignment(Qt::AlignCenter);
-    box.setTitleBackgroundColor(7);
-    box.setTitleTextColor(2);
-    box.setTitleTextSize(20);
-    box.setMessageTextColor(9);
-    return execBox(box) == CMessageBox::Ok;
+    return execShellBox(
+        ShellBox::Calibration, *this, tr("Warning"), tr("Proceed with touch screen calibration?"));
 }
 
 void CMainWindow::tellNotAvailable(UtilityID id)
@@ -46,9 +39,8 @@ void CMainWindow::tellNotAvailable(UtilityID id)
     const QStringList path = captionPath(id);
     if (path.size() < 2)
         return; // it has no name, and nothing on the screen leads to it
-    CMessageBox box(
-        path.last(), tr("%1 is not available on this unit.").arg(path.last()), CMessageBox::Ok, this);
-    execBox(box);
+    execShellBox(
+        ShellBox::NotAvailable, *this, path.last(), tr("%1 is not available on this unit.").arg(path.last()));
 }
 
 void CMainWindow::changeCurrentUtil(int id)
@@ -82,7 +74,7 @@ void CMainWindow::switchTo(UtilityID id)
         startPlugin(id);
     } else {
         leaveUtilPage(m_prevUtilID);
-        showInnerPage(m_innerPages.value(id));
+        showInnerPage(innerPage(id));
     }
     updateNavigateInfo(id);
     m_prevUtilID = id;
@@ -96,8 +88,7 @@ void CMainWindow::startPlugin(UtilityID id)
     m_pStartUtilWnd->showMessage(m_pPluginMan->getPluginName(id));
     m_pStartUtilWnd->raise();
     if (id == UTILITY_ID_BROWSER) {
-        m_touchState.isBrowserStarting = true;
-        updateTouchOwner();
+        m_pTouches->set(&TouchState::isBrowserStarting, true);
         QTimer::singleShot(BROWSER_INPUT_LOCK, this, &CMainWindow::procDelayUnlock);
     }
     m_CallerID = m_prevUtilID;
@@ -116,7 +107,7 @@ void CMainWindow::utilReady(int id)
         std::optional<QString> error;
         m_transitions.perform([&] { error = loadAndStart(util); });
         if (error)
-            showPluginError(*error);
+            execShellBox(ShellBox::PluginError, *this, tr("Load plugin"), *error);
     });
 }
 
@@ -124,14 +115,11 @@ std::optional<QString> CMainWindow::loadAndStart(UtilityID id)
 {
     m_isUtilStarting = false;
     m_pPluginMan->clearError(); // what an earlier utility left
-    UtilInterface* plugin = m_pPluginMan->loadPlugin(id);
-    if (!plugin)
+    if (!m_pPluginMan->loadPlugin(id))
         return m_pPluginMan->errorString();
-    m_touchState.isCalibrating = id == UTILITY_ID_SCREEN; // it owns all input
-    updateTouchOwner();
-    plugin->setCallerID(m_CallerID);
-    const bool isStarted = plugin->start(this);
-    if (QObject* object = plugin->getObject())
+    m_pTouches->set(&TouchState::isCalibrating, id == UTILITY_ID_SCREEN); // it owns all input
+    const bool isStarted = m_pPluginMan->startPlugin(this, m_CallerID);
+    if (QObject* object = m_pPluginMan->getPluginObject())
         connectPluginSignals(object);
     if (isStarted) {
         m_pStartUtilWnd->hide(); // a page that does not fill its ground would show it
@@ -139,8 +127,7 @@ std::optional<QString> CMainWindow::loadAndStart(UtilityID id)
     }
     qWarning("Plug-in %d did not start", int(id));
     m_pPluginMan->unloadPlugin();
-    m_touchState.isCalibrating = false; // nobody is there to own the input, and the box needs it
-    updateTouchOwner();
+    m_pTouches->set(&TouchState::isCalibrating, false); // nobody is there to own the input
     return tr("The utility could not be started.");
 }
 
@@ -165,20 +152,6 @@ void CMainWindow::connectPluginSignals(QObject* object)
     }
 }
 
-void CMainWindow::showPluginError(const QString& text)
-{
-    CMessageBox box(tr("Load plugin"), text, CMessageBox::Ok, this);
-    box.setTitleBackgroundColor(CWidgetStyle::ColorAlert);
-    // A test application may have come while the utility was starting: the box waits for the shell to come
-    // back.
-    if (m_winVisibleReason == TestAppForeground)
-        connect(&box, &CDialog::popOn, this, [this, &box] {
-            box.setAside(true);
-            updateTouchOwner();
-        });
-    execBox(box);
-}
-
 void CMainWindow::pluginRequestToClose()
 {
     triggerHome();
@@ -188,8 +161,7 @@ void CMainWindow::procDelayUnlock()
 {
     if (m_winVisibleReason == OtherReason)
         return;
-    m_touchState.isBrowserStarting = false;
-    updateTouchOwner();
+    m_pTouches->set(&TouchState::isBrowserStarting, false);
 }
 
 void CMainWindow::leavePlugin()
@@ -197,8 +169,7 @@ void CMainWindow::leavePlugin()
     m_isUtilStarting = false;
     m_pStartUtilWnd->hide();
     m_pPluginMan->unloadPlugin();
-    m_touchState.isCalibrating = false;
-    updateTouchOwner();
+    m_pTouches->set(&TouchState::isCalibrating, false);
 }
 
 void CMainWindow::leaveUtilPage(UtilityID id)
@@ -208,6 +179,7 @@ void CMainWindow::leaveUtilPage(UtilityID id)
     else if (m_pInnerUtilpage)
         m_pInnerUtilpage->hide();
     m_pInnerUtilpage = nullptr;
+    KpWidgetStack::instance()->popAllPages(); // what the page had laid over itself goes with it
 }
 
 void CMainWindow::showInnerPage(CWidget* page)
@@ -229,7 +201,7 @@ void CMainWindow::hideCurrentUtilPage()
 {
     if (m_pPluginMan->isPlugin(m_prevUtilID))
         m_pPluginMan->setPluginWindowVisible(false);
-    else if (CWidget* page = m_innerPages.value(m_prevUtilID))
+    else if (CWidget* page = innerPage(m_prevUtilID))
         page->hide();
     if (m_pSwitchAppWnd->isVisible())
         m_pSwitchAppWnd->hide();
@@ -239,12 +211,21 @@ void CMainWindow::showCurrentUtilPage()
 {
     if (m_pPluginMan->isPlugin(m_prevUtilID)) {
         m_pPluginMan->setPluginWindowVisible(true);
-    } else if (CWidget* page = m_innerPages.value(m_prevUtilID)) {
+    } else if (CWidget* page = innerPage(m_prevUtilID)) {
         page->show();
         page->raise();
     }
     if (m_testAppAction != ActionNone)
         m_pSwitchAppWnd->start(switchMessage());
+}
+
+void CMainWindow::setTestAppAction(TestAppAction action)
+{
+    m_testAppAction = action;
+    if (action == ActionNone)
+        m_pSwitchAppWnd->finish();
+    else if (m_pSwitchAppWnd->isVisible())
+        m_pSwitchAppWnd->showMessage(switchMessage());
 }
 
 QString CMainWindow::switchMessage() const

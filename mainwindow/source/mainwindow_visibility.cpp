@@ -3,6 +3,7 @@
 #include "mainwindow.h"
 
 #include "fakedesktop.h"
+#include "infopages.h"
 #include "topbar.h"
 #include "widgets/dialog/dialog.h"
 #include "widgets/toolbox/toolbox.h"
@@ -42,7 +43,7 @@ void CMainWindow::applyVisible(bool visible)
             child->update();
         repaint();
         setDialogsAside(false);
-        endInquiry(); // the test application went while its page was open
+        m_pInfoPages->endRequest(); // the test application went while its page was open
     } else {
         setDialogsAside(true);
         hideCurrentUtilPage();
@@ -65,14 +66,12 @@ void CMainWindow::setDialogsAside(bool aside)
         if (dialog->isVisible())
             dialog->setAside(aside);
     }
-    updateTouchOwner();
 }
 
 void CMainWindow::setVisibleReason(VisibleReason reason)
 {
     m_winVisibleReason = reason;
-    m_touchState.isTestAppInFront = reason == TestAppForeground;
-    updateTouchOwner();
+    m_pTouches->set(&TouchState::isTestAppInFront, reason == TestAppForeground);
 }
 
 void CMainWindow::setWindowHidden(VisibleReason reason)

@@ -21,8 +21,9 @@ bool CTouchWatch::eventFilter(QObject* watched, QEvent* event)
             emit touched();
         break;
     case QEvent::Show:
-        if (qobject_cast<CDialog*>(watched) && !event->spontaneous()) {
-            m_dialogs.insert(watched);
+        if (auto* dialog = qobject_cast<CDialog*>(watched); dialog && !event->spontaneous()) {
+            m_dialogs.insert(dialog);
+            connect(dialog, &CDialog::asideChanged, this, &CTouchWatch::dialogsChanged, Qt::UniqueConnection);
             emit dialogsChanged();
         }
         break;

@@ -23,7 +23,7 @@ public:
 
 signals:
     void touched();
-    /** A dialog came up, or went. */
+    /** A dialog came up, went, was set aside or taken back. */
     void dialogsChanged();
 
 private:

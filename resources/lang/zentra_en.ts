@@ -59,6 +59,20 @@
         <comment>value</comment>
         <translation>unknown</translation>
     </message>
+    <message>
+        <source>IPv4 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>IPv4 address of %1</translation>
+    </message>
+    <message>
+        <source>IPv6 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>IPv6 address of %1</translation>
+    </message>
+    <message>
+        <source>Network address</source>
+        <translation>Network address</translation>
+    </message>
 </context>
 <context>
     <name>CAboutPlugin</name>
@@ -511,6 +525,10 @@ or exceed maximum number allowed!</translation>
     <message>
         <source>Invalid plugin ID.</source>
         <translation>Invalid plugin ID.</translation>
+    </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>The utility could not be started.</translation>
     </message>
 </context>
 <context>

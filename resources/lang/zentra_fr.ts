@@ -59,6 +59,20 @@
         <comment>value</comment>
         <translation>inconnu</translation>
     </message>
+    <message>
+        <source>IPv4 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>Adresse IPv4 de %1</translation>
+    </message>
+    <message>
+        <source>IPv6 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>Adresse IPv6 de %1</translation>
+    </message>
+    <message>
+        <source>Network address</source>
+        <translation>Adresse réseau</translation>
+    </message>
 </context>
 <context>
     <name>CAboutPlugin</name>
@@ -511,6 +525,10 @@ enregistrées est atteint ou dépassé !</translation>
     <message>
         <source>Invalid plugin ID.</source>
         <translation>Identifiant de module non valide.</translation>
+    </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>L’utilitaire n’a pas pu démarrer.</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,20 @@
         <comment>value</comment>
         <translation>unbekannt</translation>
     </message>
+    <message>
+        <source>IPv4 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>IPv4-Adresse von %1</translation>
+    </message>
+    <message>
+        <source>IPv6 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>IPv6-Adresse von %1</translation>
+    </message>
+    <message>
+        <source>Network address</source>
+        <translation>Netzwerkadresse</translation>
+    </message>
 </context>
 <context>
     <name>CAboutPlugin</name>
@@ -511,6 +525,10 @@ ist erreicht oder überschritten!</translation>
     <message>
         <source>Invalid plugin ID.</source>
         <translation>Ungültige Plug-in-Kennung.</translation>
+    </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>Das Programm konnte nicht gestartet werden.</translation>
     </message>
 </context>
 <context>

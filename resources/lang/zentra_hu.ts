@@ -59,6 +59,20 @@
         <comment>value</comment>
         <translation>ismeretlen</translation>
     </message>
+    <message>
+        <source>IPv4 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>%1 IPv4-címe</translation>
+    </message>
+    <message>
+        <source>IPv6 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>%1 IPv6-címe</translation>
+    </message>
+    <message>
+        <source>Network address</source>
+        <translation>Hálózati cím</translation>
+    </message>
 </context>
 <context>
     <name>CAboutPlugin</name>
@@ -511,6 +525,10 @@ vagy meghaladta a megengedettet!</translation>
     <message>
         <source>Invalid plugin ID.</source>
         <translation>Érvénytelen bővítményazonosító.</translation>
+    </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>A segédprogram nem indítható el.</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,20 @@
         <comment>value</comment>
         <translation>不明</translation>
     </message>
+    <message>
+        <source>IPv4 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>%1 の IPv4 アドレス</translation>
+    </message>
+    <message>
+        <source>IPv6 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>%1 の IPv6 アドレス</translation>
+    </message>
+    <message>
+        <source>Network address</source>
+        <translation>ネットワークアドレス</translation>
+    </message>
 </context>
 <context>
     <name>CAboutPlugin</name>
@@ -511,6 +525,10 @@ or exceed maximum number allowed!</source>
     <message>
         <source>Invalid plugin ID.</source>
         <translation>プラグイン ID が無効です。</translation>
+    </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>ユーティリティを開始できませんでした。</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,20 @@
         <comment>value</comment>
         <translation>неизвестно</translation>
     </message>
+    <message>
+        <source>IPv4 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>IPv4-адрес %1</translation>
+    </message>
+    <message>
+        <source>IPv6 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>IPv6-адрес %1</translation>
+    </message>
+    <message>
+        <source>Network address</source>
+        <translation>Сетевой адрес</translation>
+    </message>
 </context>
 <context>
     <name>CAboutPlugin</name>
@@ -511,6 +525,10 @@ or exceed maximum number allowed!</source>
     <message>
         <source>Invalid plugin ID.</source>
         <translation>Недопустимый идентификатор модуля.</translation>
+    </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>Не удалось запустить утилиту.</translation>
     </message>
 </context>
 <context>

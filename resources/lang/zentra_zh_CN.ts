@@ -59,6 +59,20 @@
         <comment>value</comment>
         <translation>未知</translation>
     </message>
+    <message>
+        <source>IPv4 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>%1 的 IPv4 地址</translation>
+    </message>
+    <message>
+        <source>IPv6 address of %1</source>
+        <comment>a network interface</comment>
+        <translation>%1 的 IPv6 地址</translation>
+    </message>
+    <message>
+        <source>Network address</source>
+        <translation>网络地址</translation>
+    </message>
 </context>
 <context>
     <name>CAboutPlugin</name>
@@ -510,6 +524,10 @@ or exceed maximum number allowed!</source>
     <message>
         <source>Invalid plugin ID.</source>
         <translation>插件标识无效。</translation>
+    </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>无法启动该实用程序。</translation>
     </message>
 </context>
 <context>

@@ -282,6 +282,9 @@ void TestMainWindow::usbWithoutDriveGoesHome()
     choose(UTILITY_ID_USB_BROWSER);
     QCOMPARE(box.title(), QStringLiteral("Error"));
     QCOMPARE(box.text(), QStringLiteral("Cannot find USB drive attached to the unit!"));
+    const CMessageBox own(box.title(), box.text(), CMessageBox::Ok); // with the air that the library gives it
+    QCOMPARE(box.geometry().size(), own.size());
+    QCOMPARE(box.geometry().topLeft(), QPoint(160 + 320 - own.width() / 2 + 4, 60 + 200 - own.height() / 2));
     QVERIFY(page<CHomePage>()->isVisible());
     QVERIFY(!homeShown());
 }

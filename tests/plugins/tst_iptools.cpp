@@ -55,6 +55,8 @@ private slots:
     void backgroundRunOutlivesThePage();
     void windowMayGoFirst();
     void nothingIsLeftWhenTheShellDies();
+    void longLinesGoOnInTheNextRow();
+    void whatIsReadStaysInView_data();
     void whatIsReadStaysInView();
 
 private:
@@ -218,15 +220,41 @@ void TestIpTools::nothingIsLeftWhenTheShellDies()
     QTRY_VERIFY(running("ping").isEmpty());
 }
 
+void TestIpTools::longLinesGoOnInTheNextRow()
+{
+    COutputView view(nullptr);
+    view.resize(400, 200);
+    view.show();
+    const auto look = [&view](const QStringList& lines) {
+        view.setLines(lines, lines.size());
+        return view.grab().toImage();
+    };
+    const QString begin = QStringLiteral("From 192.0.2.1 ").repeated(8), end = QStringLiteral("unreachable");
+    QVERIFY(look({begin + end}) != look({begin}));
+    QVERIFY(look({begin + end, end}) != look({begin + end}));
+    view.setLines(QStringList(begin + end), 1);
+    QVERIFY(!view.canScrollBack());
+    view.resize(60, 200); // a word a row: too high now
+    QVERIFY(view.canScrollBack());
+}
+
+void TestIpTools::whatIsReadStaysInView_data()
+{
+    QTest::addColumn<int>("repeats");
+    QTest::newRow("short lines") << 1;
+    QTest::newRow("long lines") << 20;
+}
+
 void TestIpTools::whatIsReadStaysInView()
 {
+    QFETCH(int, repeats);
     constexpr int limit = 500;
     COutputView view(nullptr);
     view.resize(400, 200);
     QStringList lines;
     int total = 0;
     const auto add = [&] {
-        lines << QStringLiteral("line %1").arg(++total);
+        lines << QStringLiteral("line %1 ").arg(++total).repeated(repeats);
         if (lines.size() > limit)
             lines.removeFirst();
         view.setLines(lines, total);

@@ -9,9 +9,12 @@
 #include <QProcess>
 #include <QtTest>
 #include <atomic>
+#include <csignal>
 #include <memory>
+#include <pthread.h>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -61,7 +64,9 @@ private slots:
     void lateAnswerIsDropped();
     void endsWhileTheBusIsSilent();
     void callersOnManyThreads();
+    void noRoomForAThread();
     void processExists();
+    void endedProcessDoesNotExist();
 };
 
 // Everything up and fresh, whatever the test before left.
@@ -240,6 +245,25 @@ void TestServices::callersOnManyThreads()
     QCOMPARE(answers.load(), 200);
 }
 
+void TestServices::noRoomForAThread()
+{
+    CBusLink link(Bus);
+    pthread_attr_t before;
+    pthread_attr_t hugeStack; // more than there are addresses: no thread can be made
+    QCOMPARE(pthread_getattr_default_np(&before), 0);
+    QCOMPARE(pthread_getattr_default_np(&hugeStack), 0);
+    QCOMPARE(pthread_attr_setstacksize(&hugeStack, size_t(1) << 60), 0);
+    QCOMPARE(pthread_setattr_default_np(&hugeStack), 0);
+    const bool isAnswered = ask(link);
+    QCOMPARE(pthread_setattr_default_np(&before), 0);
+    QVERIFY(!isAnswered);
+    QCOMPARE(s_waits.load(), 0);
+    sigset_t blocked;
+    QCOMPARE(pthread_sigmask(SIG_SETMASK, nullptr, &blocked), 0);
+    QCOMPARE(sigismember(&blocked, SIGTERM), 0); // held back for the thread only
+    QVERIFY(ask(link)); // as soon as there is room
+}
+
 void TestServices::processExists()
 {
     const QString program = QStringLiteral("/tmp/fscapture");
@@ -256,6 +280,28 @@ void TestServices::processExists()
     process.kill();
     QVERIFY(process.waitForFinished());
     QVERIFY(!miscutils::CCommUtils::IsProcessExist(name));
+}
+
+// Its parent has not looked at it yet, so it has its name in the process table.
+void TestServices::endedProcessDoesNotExist()
+{
+    const QByteArray program = "/tmp/wsa) Z"; // a name that looks like a part of the table
+    QVERIFY(QFile::copy(QStringLiteral("/usr/bin/sleep"), QString::fromLatin1(program)));
+    const QString name = QString::fromLatin1(program.mid(5));
+    const pid_t child = fork();
+    if (child == 0) {
+        execl(program.constData(), program.constData(), "1000", nullptr);
+        _exit(1);
+    }
+    QTRY_VERIFY(miscutils::CCommUtils::IsProcessExist(name));
+    QCOMPARE(kill(child, SIGKILL), 0);
+    siginfo_t end = {};
+    QCOMPARE(waitid(P_PID, id_t(child), &end, WEXITED | WNOWAIT), 0);
+    QFile comm(QStringLiteral("/proc/%1/comm").arg(child));
+    QVERIFY(comm.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromLatin1(comm.readAll().trimmed()), name); // still there
+    QVERIFY(!miscutils::CCommUtils::IsProcessExist(name));
+    QCOMPARE(waitpid(child, nullptr, 0), child);
 }
 
 QTEST_GUILESS_MAIN(TestServices)

@@ -1,5 +1,6 @@
 #include "widgets/widget/widget.h"
 
+#include "widgets/keywatch/keywatch.h"
 #include "widgets/touchregion/touchregion.h"
 #include "widgets/widget/treecall.h"
 #include "widgets/widgetstyle/stylepainter.h"
@@ -10,6 +11,7 @@ CWidget::CWidget(QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
 {
     installTouchRegion();
+    installKeyWatch();
 }
 
 void CWidget::setBackgroundColor(const QColor& color)
@@ -62,6 +64,12 @@ void CWidget::setBorderWidth(int left, int top, int right, int bottom)
     if (before == m_frame.borderWidths())
         return;
     setContentsMargins(m_frame.borderWidths()); // layouts keep off the border
+    update();
+}
+
+void CWidget::setRounded(int radius, CFrameStyle::Corners corners)
+{
+    m_frame.setRounded(radius, corners);
     update();
 }
 
