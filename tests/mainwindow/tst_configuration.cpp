@@ -1,4 +1,5 @@
 #include "commutils.h"
+#include "testfiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,7 +8,6 @@
 
 #include "smalldisk.h"
 #include "startup.h"
-#include "testfiles.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
 namespace {
