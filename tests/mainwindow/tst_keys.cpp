@@ -57,6 +57,7 @@ private slots:
     void homeActsOnce_data();
     void homeActsOnce();
     void aDialogHearsF3NotHome();
+    void aPadWaitsForTheTestApplication();
     void keysWithTestApplicationInFront();
     void enterOnADisabledControl();
     void enterOnAHiddenControl();
@@ -246,6 +247,22 @@ void TestKeys::aDialogHearsF3NotHome()
     tap(XK_F3); // forwarded at both dialogs, and passed on by one to the other
     QTRY_COMPARE(s_keysSeen, 1);
     QCOMPARE(m_window->currentUtil(), UTILITY_ID_ADVTOOL);
+}
+
+void TestKeys::aPadWaitsForTheTestApplication()
+{
+    m_window->changeCurrentUtil(UTILITY_ID_ADVTOOL);
+    CParmLineEdit field(QStringLiteral("Name"), QString(), page<CAdvanceMenu>());
+    field.show();
+    CWithDialog withPad([this](CDialog* pad) {
+        const auto closed = qScopeGuard([pad] { pad->reject(); });
+        m_window->setWindowVisible(false); // hides the page of the field
+        QVERIFY(pad->isVisible() && pad->isAside());
+        m_window->setWindowVisible(true);
+        QVERIFY(pad->isVisible() && !pad->isAside());
+    });
+    field.click();
+    QVERIFY(withPad.isDone());
 }
 
 void TestKeys::keysWithTestApplicationInFront()
