@@ -3,6 +3,7 @@
 #include "drivenwindow.h"
 #include "mainapplication.h"
 #include "widgets/entrywidget/entrywidget.h"
+#include "widgets/keypad/keypaddialog.h"
 #include "widgets/parmcombobox/parmcombobox.h"
 #include "widgets/parmcombobox/parmlist.h"
 #include "widgets/parmlineedit/parmlineedit.h"
@@ -56,6 +57,7 @@ private slots:
     void heldEnterOpensThePadOnly();
     void homeActsOnce_data();
     void homeActsOnce();
+    void aDialogHearsF3NotHome_data();
     void aDialogHearsF3NotHome();
     void aPadWaitsForTheTestApplication();
     void keysWithTestApplicationInFront();
@@ -234,12 +236,23 @@ void TestKeys::homeActsOnce()
     QCOMPARE(s_keysSeen, 1);
 }
 
+void TestKeys::aDialogHearsF3NotHome_data()
+{
+    QTest::addColumn<bool>("inPad");
+    QTest::newRow("dialog") << false;
+    QTest::newRow("key pad of a field in a dialog") << true;
+}
+
 void TestKeys::aDialogHearsF3NotHome()
 {
+    QFETCH(bool, inPad);
     m_window->changeCurrentUtil(UTILITY_ID_ADVTOOL);
     CDialog outer; // without a window behind that it could pass its keys on to
-    CDialog inner(&outer);
+    CParmLineEdit field(QStringLiteral("Name"), QString(), &outer);
+    CDialog box(&outer);
+    CKeyPadDialog pad(QStringLiteral("Name"), QString(), CKeyPadFactory::KeyPadText, &field);
     outer.show();
+    CDialog& inner = inPad ? pad : box;
     inner.show();
     inner.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&inner));
