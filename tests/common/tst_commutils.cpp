@@ -281,18 +281,15 @@ void tst_CommUtils::utilities()
 void tst_CommUtils::pidof_data()
 {
     QTest::addColumn<int>("instances");
-    QTest::addColumn<bool>("reaper");
-    QTest::newRow("none") << 0 << false;
-    QTest::newRow("one") << 1 << false;
-    QTest::newRow("two") << 2 << false;
+    QTest::newRow("none") << 0;
+    QTest::newRow("one") << 1;
+    QTest::newRow("two") << 2;
 }
 
 void tst_CommUtils::pidof()
 {
     QFETCH(int, instances);
-    QFETCH(bool, reaper);
-    const std::unique_ptr<ChildReaper> installed(reaper ? new ChildReaper : nullptr);
-    const QString program = "/tmp/lookedup%1%2"_s.arg(instances).arg(reaper);
+    const QString program = "/tmp/lookedup%1"_s.arg(instances);
     QFile::remove(program);
     QVERIFY(QFile::copy("/usr/bin/sleep"_s, program));
     std::vector<CDetachedCommand> commands(static_cast<size_t>(instances));

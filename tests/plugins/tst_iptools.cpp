@@ -15,6 +15,7 @@
 #include <QWidget>
 
 #include "boxanswer.h"
+#include "testfiles.h"
 
 namespace {
 
@@ -34,11 +35,6 @@ QByteArrayList running(const char* name)
 }
 
 const QString LIBRARY = QStringLiteral("/usr/local/arvo/plugins/libIPtool.so");
-
-int descriptors()
-{
-    return int(QDir(QStringLiteral("/proc/self/fd")).count());
-}
 
 } // namespace
 
@@ -142,7 +138,7 @@ void TestIpTools::badAddressIsRefused()
 
 void TestIpTools::pingIsLiveAndStops()
 {
-    const int before = descriptors();
+    const int before = openDescriptors();
     QVERIFY(m_plugin->start(&m_host));
     enter("127.0.0.1");
     auto* output = part<QWidget>("output");
@@ -158,7 +154,7 @@ void TestIpTools::pingIsLiveAndStops()
     QTRY_VERIFY(running("ping").isEmpty());
     QVERIFY(m_plugin->stop());
     QVERIFY(!m_plugin->bIsStarted);
-    QCOMPARE(descriptors(), before);
+    QCOMPARE(openDescriptors(), before);
 }
 
 void TestIpTools::traceEndsByItself()
@@ -183,7 +179,7 @@ void TestIpTools::leavingThePageEndsTheRun()
 
 void TestIpTools::backgroundRunOutlivesThePage()
 {
-    const int before = descriptors();
+    const int before = openDescriptors();
     QVERIFY(m_plugin->start(&m_host));
     part<CCheckBox>("background")->setChecked(true);
     enter("127.0.0.1");
@@ -201,7 +197,7 @@ void TestIpTools::backgroundRunOutlivesThePage()
 
     m_plugin->terminate();
     QTRY_VERIFY(running("ping").isEmpty());
-    QTRY_COMPARE(descriptors(), before);
+    QTRY_COMPARE(openDescriptors(), before);
 }
 
 void TestIpTools::windowMayGoFirst()

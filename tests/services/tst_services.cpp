@@ -2,6 +2,7 @@
 #include "services/langswitchserv.h"
 #include "services/processutils.h"
 #include "services/sysfailureserv.h"
+#include "testfiles.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -33,11 +34,6 @@ void countWaits(QtMsgType type, const QMessageLogContext& context, const QString
     if (text.contains(QStringLiteral("no answer in")))
         ++s_waits;
     s_next(type, context, text);
-}
-
-bool simctl(const QString& line)
-{
-    return QProcess::execute(QStringLiteral("simctl"), line.split(QLatin1Char(' '))) == 0;
 }
 
 bool ask(CBusLink& link, QString* text = nullptr)
