@@ -16,7 +16,7 @@ namespace {
 
 // More than any file of ours needs; what stays below is read in half a second.
 constexpr qint64 MaxComparisons
-    = 50 * 1000 * 1000; // of attributes: 10,000 of one element, 500 of each of 400
+    = qint64(50) * 1000 * 1000; // of attributes: 10,000 of one element, 500 of each of 400
 constexpr int MaxDeclarations
     = 16384; // characters of a document type, without comments and quoted values: 1000 entities or attributes
 constexpr int MaxAttributes
