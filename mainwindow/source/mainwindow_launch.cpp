@@ -4,6 +4,7 @@
 
 #include "devicemonitor.h"
 #include "pluginman.h"
+#include "shellservice.h"
 #include "utilinterface.h"
 
 #include <QDebug>
@@ -105,6 +106,7 @@ void CMainWindow::postLaunch()
     m_pDevMonitor->wakeupScreen(m_powerStat.bIsBat, 1);
     autoLoadPlugins();
     QThread::msleep(LAUNCH_SETTLE);
+    new CShellService(this); // the window owns it
     m_pSystemTimer->start();
     selftestPopup();
     m_pFailureServTimer->start();
