@@ -27,9 +27,9 @@ class Handler(ProxyRequestHandler):
         """Why the request is refused, or nothing. A token that it brings is used up."""
         server = self.server
         if self.headers.get("Host") not in server.hosts:
-            return "This is another host's name."
+            return "This is another host's name"
         if self.headers.get("Origin", server.origins[0]) not in server.origins:
-            return "Another site asked for this."
+            return "Another site asked for this"
         try:
             cookie = SimpleCookie(self.headers.get("Cookie", "")).get(server.cookie)
         except CookieError:
@@ -43,7 +43,7 @@ class Handler(ProxyRequestHandler):
                 return ""
             except OSError:
                 pass
-        return "The address is incomplete or was used before; simulator/simctl view prints a fresh one."
+        return "The address is incomplete or was used before; simulator/simctl view prints a fresh one"
 
     def _query(self):
         return parse_qs(urlsplit(self.path).query)
