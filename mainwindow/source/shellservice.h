@@ -31,7 +31,7 @@ class CShellService : public QObject
 public:
     static constexpr char Name[] = "org.zentra.Shell"; ///< also of the interface
     static constexpr char Object[] = "/org/zentra/Shell";
-    static constexpr int RetryPeriod = 5000; ///< ms
+    static constexpr int RetryPeriod = 4000; ///< ms
 
     /** Begins to connect. @param address bus address, the system bus's without one */
     explicit CShellService(QObject* parent, const char* address = "unix:path=/run/dbus/system_bus_socket");
