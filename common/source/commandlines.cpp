@@ -153,12 +153,12 @@ void CCommandLines::closeOutput()
     m_command.closeOutput();
 }
 
-bool readCommandLines(
+ReadResult readCommandLines(
     const QStringList& argv, int timeoutMs, const std::function<bool(const QString& line)>& onLine)
 {
     CDetachedCommand command;
     if (!command.start(argv))
-        return false;
+        return ReadResult::NotStarted;
 
     const QDeadlineTimer deadline
         = timeoutMs < 0 ? QDeadlineTimer(QDeadlineTimer::Forever) : QDeadlineTimer(timeoutMs);
@@ -172,12 +172,17 @@ bool readCommandLines(
         const ReadState state = readSome(command.fd(), buffer, size);
         if (state == ReadState::End) {
             wanted(splitter.finish());
-            command.terminate(); // mostly it has ended; one that only closed its output would stay for ever
-            return true;
+            if (command.isRunningAfter(EndGraceMs)) // one that only closed its output would stay for ever
+                command.terminate();
+            return ReadResult::Ended;
         }
-        if ((state == ReadState::Data && !wanted(splitter.feed(buffer, size))) || deadline.hasExpired())
+        if (state == ReadState::Data && !wanted(splitter.feed(buffer, size))) {
+            endCommand(command);
+            return ReadResult::Stopped;
+        }
+        if (deadline.hasExpired())
             break;
     }
     endCommand(command);
-    return true;
+    return ReadResult::TimedOut;
 }

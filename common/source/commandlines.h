@@ -64,12 +64,20 @@ private:
     QTimer m_killTimer;
 };
 
+/** How readCommandLines() came to its end. */
+enum class ReadResult {
+    NotStarted, ///< there is no such command, or no room for one more
+    Ended, ///< the output has ended: onLine got all of it
+    TimedOut,
+    Stopped ///< onLine had enough
+};
+
 /**
  * Runs argv detached and calls onLine for every line of its output (see CCommandLines for what a line is), in
  * the calling thread, which blocks. Ends when the output ends, after timeoutMs milliseconds (negative: no
  * limit) or when onLine returns false; in the two latter cases the command's process group is asked to end
- * and killed if it does not within 200 ms, and a line still incomplete is dropped. False only if the command
- * could not be started. Meant for worker threads.
+ * and killed if it does not within 200 ms, and a line still incomplete is dropped. A command that goes on
+ * running for 200 ms after its output has ended is asked to end, too. Meant for worker threads.
  */
-bool readCommandLines(
+ReadResult readCommandLines(
     const QStringList& argv, int timeoutMs, const std::function<bool(const QString& line)>& onLine);

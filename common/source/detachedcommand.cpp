@@ -8,8 +8,10 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <poll.h>
 #include <pthread.h>
 #include <sys/resource.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 
 namespace {
@@ -135,6 +137,7 @@ void restoreSignals()
 bool CDetachedCommand::start(const QStringList& argv, Output output)
 {
     m_output.reset();
+    m_process.reset();
     m_pid = -1;
     m_errorText.clear();
 
@@ -188,10 +191,12 @@ bool CDetachedCommand::start(const QStringList& argv, Output output)
     Report report = {};
     while (receiveReport(reportRead.get(), report)) {
         if (report.event == Event::Failed) {
+            m_process.reset();
             m_pid = -1;
             return fail(name, report.value);
         }
         m_pid = report.value;
+        m_process.reset(int(::syscall(SYS_pidfd_open, m_pid, 0))); // it has yet to become the program
     }
     if (m_pid < 0)
         return fail(name, ECHILD); // killed before it could say why
@@ -216,6 +221,14 @@ void CDetachedCommand::keepEnvironment()
 bool CDetachedCommand::terminate(int signalNumber)
 {
     return m_pid > 0 && ::kill(-m_pid, signalNumber) == 0;
+}
+
+bool CDetachedCommand::isRunningAfter(int ms) const
+{
+    pollfd entry = {m_process.get(), POLLIN, 0};
+    int ready = 0;
+    while (m_process.isValid() && (ready = ::poll(&entry, 1, ms)) < 0 && errno == EINTR) { }
+    return m_process.isValid() && ready == 0;
 }
 
 bool CDetachedCommand::fail(const QString& program, int error)

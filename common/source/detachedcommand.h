@@ -61,10 +61,17 @@ public:
 
     /**
      * Sends a signal to the command's whole process group: SIGTERM asks, SIGINT asks as the user would,
-     * SIGKILL ends it. True if somebody was there to get it. Call it only while the output has not ended:
-     * afterwards the number may belong to somebody else.
+     * SIGKILL ends it. True if somebody was there to get it. Call it only while the output has not ended or
+     * the command is known to run: afterwards the number may belong to somebody else.
      */
     bool terminate(int signalNumber = SIGTERM);
+
+    /**
+     * Waits for the end of the command itself, not of what it has started.
+     * @return true when it still runs after that time, false when it has ended, or when that cannot be told
+     * (kernels before 5.3)
+     */
+    bool isRunningAfter(int ms) const;
 
     /** Why the last start failed, as the system words it; empty after a success. */
     QString errorText() const { return m_errorText; }
@@ -73,6 +80,7 @@ private:
     bool fail(const QString& program, int error);
 
     CFileDescriptor m_output;
+    CFileDescriptor m_process; // pidfd
     pid_t m_pid = -1;
     QString m_errorText;
 };

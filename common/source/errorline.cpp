@@ -1,9 +1,12 @@
 #include "errorline.h"
 
-#include <cstdio>
+#include "standardstreams.h"
+
+#include <unistd.h>
 
 void printErrorLine(const char* file, const char* function, int line)
 {
-    std::printf("### ERROR: FILE:%s\t Func:%s\t%d\n", file, function, line);
-    std::fflush(stdout);
+    standardstreams::write(STDOUT_FILENO,
+        QByteArrayLiteral("### ERROR: FILE:") + file + "\t Func:" + function + '\t' + QByteArray::number(line)
+            + '\n');
 }

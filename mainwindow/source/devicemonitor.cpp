@@ -114,14 +114,14 @@ void CDeviceMonitor::inquireAll()
     inquire(&Self::inquireDataCardStatus, &Self::dataCardStatusChanged, "Inquire GPS status failed");
 }
 
-bool CDeviceMonitor::inquirePowerStatus(PowerStatus*)
+bool CDeviceMonitor::inquirePowerStatus(PowerStatus* status)
 {
-    return true;
+    return !m_powerSource || m_powerSource(status);
 }
 
-bool CDeviceMonitor::inquireBluetoothStatus(BluetoothStatus*)
+bool CDeviceMonitor::inquireBluetoothStatus(BluetoothStatus* status)
 {
-    return true;
+    return !m_bluetoothSource || m_bluetoothSource(status);
 }
 
 bool CDeviceMonitor::inquireStorageStatus(StorageStatus* status)
@@ -138,14 +138,13 @@ bool CDeviceMonitor::inquireWIFIStatus(WIFIStatus* status)
     status->signalStrength = 0;
     bool isAdapterMissing = false;
     int lines = 0;
-    const QDeadlineTimer deadline(WifiTimeoutMs);
-    const bool started = readCommandLines(
+    const ReadResult result = readCommandLines(
         {QStringLiteral("iwconfig"), QStringLiteral("wlan0")}, WifiTimeoutMs, [&](const QString& line) {
             isAdapterMissing = !applyIwconfigLine(*status, line);
             return !isAdapterMissing && ++lines < WifiMaxLines;
         });
     // Half an answer is none: the adapter may be there and linked.
-    return started && (isAdapterMissing || (lines < WifiMaxLines && !deadline.hasExpired()));
+    return isAdapterMissing || result == ReadResult::Ended;
 }
 
 bool CDeviceMonitor::inquireOPMStatus(OPMStatus*)

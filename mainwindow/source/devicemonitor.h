@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <functional>
+#include <utility>
 
 /**
  * Looks at the instrument's devices once a second in a thread of its own, and tells what it found: one signal
@@ -46,6 +47,18 @@ public:
 
     /** Ends the thread and waits for it: at most one cycle. It cannot be started again. */
     void stop();
+
+    /**
+     * Where the records of the battery and of Bluetooth come from; without a source they stay as built. Called
+     * in the monitor thread, once a cycle: a source that waits for something does that in a thread of its own
+     * and hands out its last record. To be set before start().
+     * @return by the source: false when the state cannot be told
+     */
+    void setPowerSource(std::function<bool(PowerStatus*)> source) { m_powerSource = std::move(source); }
+    void setBluetoothSource(std::function<bool(BluetoothStatus*)> source)
+    {
+        m_bluetoothSource = std::move(source);
+    }
 
     /** Ask for the USB disk to be taken in, and to be released. The later request replaces an earlier one. */
     void mountUSBDisk();
@@ -90,6 +103,8 @@ private:
     std::atomic<bool> bStop{false};
     std::atomic<OperCode> m_operCode{Oper_None};
     Sleep m_sleep;
+    std::function<bool(PowerStatus*)> m_powerSource;
+    std::function<bool(BluetoothStatus*)> m_bluetoothSource;
     QMutex m_stopMutex; // for the wait only
     QWaitCondition m_stopped;
 };

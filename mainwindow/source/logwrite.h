@@ -1,12 +1,14 @@
 #pragma once
 
+#include "standardstreams.h"
+
 #include <cstddef>
 #include <cstring>
 #include <unistd.h>
 
 /**
- * A log line that may be written in signal context: built in a buffer of its own and written to standard
- * error with one write(2). What does not fit is cut off.
+ * A log line that may be written in signal context: built in a buffer of its own and written at once, or
+ * counted as lost when nobody takes it. What does not fit is cut off.
  */
 class CLogLine
 {
@@ -34,11 +36,10 @@ public:
         return *this;
     }
 
-    void write()
+    void write(int fd = STDERR_FILENO)
     {
         m_buffer[m_size++] = '\n';
-        const ssize_t written = ::write(STDERR_FILENO, m_buffer, m_size);
-        (void)written; // nobody to tell in signal context
+        standardstreams::writeInSignal(fd, m_buffer, m_size);
     }
 
 private:

@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr int ANOTHER_SHELL_RUNS = 3; // exit status
+
 /** Fonts are looked up by the shell's own short configuration; reading the system's takes far longer. */
 void useOwnFontConfiguration()
 {
@@ -27,6 +29,9 @@ void useOwnFontConfiguration()
 
 int main(int argc, char** argv)
 {
+    prepareProcess();
+    if (!lockInstrument())
+        return ANOTHER_SHELL_RUNS;
     CDetachedCommand::keepEnvironment(); // what follows is for this process, not for the commands it starts
     // Nothing here draws with OpenGL, and loading it would cost 60 ms and 32 MB at every start.
     qputenv("QT_XCB_GL_INTEGRATION", "none");

@@ -1,10 +1,13 @@
 #include "mainwindow.h"
 
 #include "advancemenu.h"
+#include "backlight.h"
 #include "defaultsettings.h"
 #include "fakedesktop.h"
 #include "homepage.h"
+#include "infopages.h"
 #include "pluginman.h"
+#include "screenshots.h"
 #include "settingmoremenu.h"
 #include "sigtransfer.h"
 #include "startutilwindow.h"
@@ -12,9 +15,7 @@
 #include "systemsettingsmenu.h"
 #include "taskmanager.h"
 #include "topbar.h"
-#include "touchwatch.h"
 #include "usbdmonitor.h"
-#include "widgets/messagebox/messagebox.h"
 #include "widgets/toolbox/toolbox.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
@@ -70,6 +71,12 @@ void CMainWindow::initialize()
 {
     signalInit();
     loadSysSettings();
+    m_pTouches = new CTouchControl(this);
+    connect(m_pTouches, &CTouchControl::regionChanged, this,
+        [this](NonInteractiveRegionType type, const QRect& region) {
+            m_nonInteractiveType = type;
+            m_nonInteractiveRegion = region;
+        });
     setScreenLocked(false); // an earlier run may have ended locked, and left its mark
 
     m_pTrans = new QTranslator(this);
@@ -105,11 +112,8 @@ void CMainWindow::initialize()
     createDeviceMonitor();
     m_pPluginMan = new CPluginManager(this);
     createTimers();
+    createParts();
 
-    // Touches on the controls do not come to the window itself, and wake the screen all the same.
-    auto* touchWatch = new CTouchWatch(this);
-    qApp->installEventFilter(touchWatch);
-    connect(touchWatch, &CTouchWatch::touched, this, &CMainWindow::wakeupScreen);
     QTimer::singleShot(0, this, &CMainWindow::postLaunch);
     setBackgroundColor(CWidgetStyle::ColorScreen);
 }
@@ -137,19 +141,45 @@ void CMainWindow::createTimers()
     m_pSwitchDelayTimer->setSingleShot(true);
     m_pBatBacklightTimer = new QTimer(this);
     m_pACBacklightTimer = new QTimer(this);
-    for (QTimer* timer : {m_pBatBacklightTimer, m_pACBacklightTimer}) {
-        timer->setSingleShot(true);
-        connect(timer, &QTimer::timeout, this, &CMainWindow::backlightTimeout);
-    }
     connect(this, &CMainWindow::windowVisibleChanged, this, &CMainWindow::setWindowVisible);
+}
+
+void CMainWindow::createParts()
+{
+    CWindowHost& host = *this; // not everybody's base
+    m_pScreenshots = std::make_unique<CScreenshots>(host, m_transitions);
+    m_pBacklight = std::make_unique<CBacklight>(m_pDevMonitor, m_pBatBacklightTimer, m_pACBacklightTimer);
+    for (QTimer* timer : {m_pBatBacklightTimer, m_pACBacklightTimer})
+        connect(timer, &QTimer::timeout, this, &CMainWindow::backlightTimeout);
+    // Touches on the controls do not come to the window itself, and wake the screen all the same.
+    connect(m_pTouches, &CTouchControl::touched, this, &CMainWindow::wakeupScreen);
+
+    const InfoFields fields{
+        m_powerStat, m_storeStat, m_pInqSysStatCode, bIsClientInBackWithPopup, bIsShouldFakeDesktopShown};
+    m_pInfoPages = new CInfoPages(host, m_transitions, fields, this);
+    connect(m_pInfoPages, &CInfoPages::opened, this, &CMainWindow::dlgPopon);
+    connect(m_pInfoPages, &CInfoPages::closed, this, &CMainWindow::dlgPopoff);
+    connect(m_pInfoPages, &CInfoPages::installUSBDriveSig, this, &CMainWindow::installUSBDrive);
+    connect(m_pInfoPages, &CInfoPages::removeUSBDriveSig, this, &CMainWindow::removeUSBDrive);
+    connect(m_pInfoPages, &CInfoPages::fakeDesktopWanted, this, &CMainWindow::grabFakeDesktop);
+    connect(m_pInfoPages, &CInfoPages::fakeDesktopShown, this, &CMainWindow::setFakeDesktopVisible);
+    connect(m_pInfoPages, &CInfoPages::testAppWanted, this, [this] {
+        setWindowVisible(false);
+        restoreLastUtilState();
+    });
 }
 
 template <typename Page> Page* CMainWindow::addInnerPage(UtilityID id, Page* page)
 {
     page->hide();
     moveToWorkingArea(page);
-    m_innerPages.insert(id, page);
+    m_innerPages.add(id, page);
     return page;
+}
+
+CWidget* CMainWindow::innerPage(UtilityID id)
+{
+    return m_innerPages.page(id);
 }
 
 void CMainWindow::createPages()
@@ -221,24 +251,6 @@ void CMainWindow::moveToWorkingArea(CWidget* widget)
     widget->setBorderWidth(0, 1, 1, 1);
     widget->resize(area.size());
     widget->move(area.topLeft());
-}
-
-int CMainWindow::execBox(CMessageBox& box)
-{
-    box.adjustSize();
-    moveToWorkingAreaCenter(&box);
-    const bool isOverTestApp = m_winVisibleReason == TestAppForeground;
-    // Whoever has the touches, the box needs them; only the lock stands above it.
-    const bool isCalibrating
-        = m_nonInteractiveType == FullScreen && !bIsUILocked && m_prevUtilID == UTILITY_ID_SCREEN;
-    if (!bIsUILocked)
-        setNonInteractiveRegion(RegionNone, QRect());
-    const int answer = box.exec();
-    if (isOverTestApp)
-        procDelayUnlock();
-    else if (isCalibrating && !bIsUILocked && m_prevUtilID == UTILITY_ID_SCREEN)
-        setNonInteractiveRegion(FullScreen, QRect());
-    return answer;
 }
 
 void CMainWindow::closeEvent(QCloseEvent* event)

@@ -2,30 +2,34 @@
 
 #include "devicestatus.h"
 #include "focussearch.h"
+#include "innerpages.h"
 #include "languagecode.h"
 #include "menustack.h"
 #include "services/sysfailureserv.h"
 #include "statuscodes.h"
+#include "touchcontrol.h"
+#include "transitions.h"
 #include "utilityid.h"
+#include "widgets/keywatch/keywatch.h"
 #include "widgets/widget/widget.h"
+#include "windowhost.h"
 
 #include <QElapsedTimer>
-#include <QHash>
 #include <QPointer>
 
 #include <memory>
+#include <optional>
 
 class CAdvanceMenu;
+class CBacklight;
 class CDeviceMonitor;
 class CFakeDesktop;
 class CHomePage;
-class CMessageBox;
+class CInfoPages;
 class CPluginManager;
-class CPowerMonitor;
+class CScreenshots;
 class CSettingMoreMenu;
 class CStartUtilWindow;
-class CStorageMeter;
-class CStorageMonitor;
 class CSwitchAppWindow;
 class CSystemSettingsMenu;
 class CTaskManager;
@@ -40,28 +44,31 @@ class QTranslator;
  * current utility (the home page, a built-in page or a plug-in's page), and steps aside while a test
  * application is in front.
  *
- * It owns every page, bar and manager it makes, for the life of the process. Interface thread only, but for
- * signalHandler(). The class is spread over several files by concern: mainwindow.cpp (construction and
- * wiring), _menu, _switching, _visibility, _launch, _language, _signals, _navigation, _lock, _devices,
- * _screen.
+ * It composes: what locks the screen and who gets the touches (CTouchControl), the backlight's times
+ * (CBacklight), screenshots (CScreenshots), the information pages (CInfoPages), the boxes (execShellBox()),
+ * the focus search (CFocusSearch) and the menu path (CMenuStack) are on their own, and reach back by signals
+ * or CWindowHost. What is left here is wiring, the switch of utilities, and stepping aside for a test
+ * application. Operations whose name another part of the system uses stay, and hand on.
  *
- * A new built-in page is one line in createPages(); the utilities without one are logged as not available.
+ * It owns every page, bar and manager it makes, for the life of the process. Interface thread only, but for
+ * signalHandler(). Its files: mainwindow.cpp (construction and wiring), _menu, _switching, _visibility,
+ * _launch, _language, _signals, _navigation, _devices (what only hands on).
+ *
+ * Whatever changes the page or the screen is a transition, one at a time (CTransitions).
+ *
+ * A new built-in page is one line in createPages(); for a utility without one a box says so.
  */
-class CMainWindow : public CWidget
+class CMainWindow : public CWidget, private CWindowHost
 {
     Q_OBJECT
 
 public:
     enum VisibleReason { TestAppForeground = 0, TestAppBackground = 1, OtherReason = 2 };
     enum TestAppAction { ActionLoad = 0, ActionRelease = 1, ActionNone = 2 };
+    Q_ENUM(TestAppAction)
     using DetectDirection = CFocusSearch::DetectDirection;
     using DetectType = CFocusSearch::DetectType;
-    enum NonInteractiveRegionType {
-        FullScreen = 0,
-        ExcludeBottomBar = 1,
-        CutomizeRegion = 2,
-        RegionNone = 3
-    };
+    using NonInteractiveRegionType = CTouchControl::NonInteractiveRegionType;
 
     explicit CMainWindow(QWidget* parent);
     ~CMainWindow() override;
@@ -82,13 +89,13 @@ public:
     /** Centre of the screen, and placement of dialogs on the page frame and on the working area. */
     static QPoint screenCenter();
     void moveToScreenCenter(QWidget* widget);
-    void moveToWorkingAreaCenter(QWidget* widget);
+    void moveToWorkingAreaCenter(QWidget* widget) override;
     /** Frames a page and makes it fill the working area. */
     void moveToWorkingArea(CWidget* widget);
 
     /**
-     * Drops touches inside a region of the screen, in this process and, for the whole screen, by a pointer
-     * grab.
+     * Asks for a region of the screen in which touches are dropped, in this process and, for the whole
+     * screen, by a pointer grab. It holds while nothing else decides about touches (touchstate.h).
      * @param region the region for CutomizeRegion, in screen pixels; else ignored
      */
     void setNonInteractiveRegion(NonInteractiveRegionType type, const QRect& region);
@@ -105,6 +112,11 @@ public slots:
     void changeCurrentUtil(int id);
     /** Hides the shell for a test application in front (false) and brings it back (true). */
     void setWindowVisible(bool visible);
+    /**
+     * What the switching service is doing with a test application. The overlay that says so comes with the
+     * shell's next return to the screen; ActionNone ends it.
+     */
+    void setTestAppAction(CMainWindow::TestAppAction action);
     void changeLanguage(LanguageCode code);
     void translate() override;
     void triggerHome();
@@ -131,6 +143,7 @@ signals:
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     /** The shell stays, whoever asks for its window to be closed; only a signal ends it. */
@@ -144,8 +157,8 @@ private slots:
     void postLaunch();
     void handleSignal();
     void backlightTimeout();
-    void dlgPopon();
-    void dlgPopoff();
+    void dlgPopon(int windowID);
+    void dlgPopoff(int windowID);
     void installUSBDrive();
     void removeUSBDrive();
     void updatePowerStatus(const PowerStatus& status);
@@ -162,7 +175,9 @@ private:
     void createPages();
     void createDeviceMonitor();
     void createTimers();
+    void createParts();
     template <typename Page> Page* addInnerPage(UtilityID id, Page* page);
+    CWidget* innerPage(UtilityID id);
 
     // Menu path and top bar
     void updateNavigateInfo(UtilityID id);
@@ -176,25 +191,39 @@ private:
     // Switching
     bool isUtilAvailable(UtilityID id) const;
     bool confirmCalibration();
+    void tellNotAvailable(UtilityID id);
+    void chooseItem(int id);
+    void openUtil(UtilityID id, bool isAsking);
+    // The transitions themselves, whoever asked for them.
+    void switchTo(UtilityID id);
+    void goHome();
+    void closeCurrent();
+    /** @return what to tell the user, nothing when the plug-in is up */
+    std::optional<QString> loadAndStart(UtilityID id);
+    void applyVisible(bool visible);
+    void applyLanguage(LanguageCode code);
+
     void showInnerPage(CWidget* page);
     void showHomePage();
     void leaveUtilPage(UtilityID id);
     void leavePlugin();
     void startPlugin(UtilityID id);
     void connectPluginSignals(QObject* object);
-    void showPluginError(const QString& text);
     QString switchMessage() const;
     void showCurrentUtilPage();
     void hideCurrentUtilPage();
     void updateCurrentUtilPage();
 
     // Visibility
+    void setVisibleReason(VisibleReason reason);
     void setWindowHidden(VisibleReason reason);
     void setWindowShown(VisibleReason reason);
     void setBarsVisible(bool visible);
     void setDialogsAside(bool aside);
     void blockAppAreaUpdate();
     void recoverAppAreaUpdate();
+    /** What was shown and hidden so far is on the screen when this returns. */
+    void paintNow();
     void grabFakeDesktop();
     void setFakeDesktopVisible(bool visible);
 
@@ -209,22 +238,18 @@ private:
     static bool isFSCaptureRunning();
     static bool isWSARunning();
 
-    // Lock and screenshots
+    // What hands on
     void lockScreen();
     void setScreenLocked(bool locked);
-    void saveScreen();
-    void reportScreenLimit();
-
-    // Information pages
     bool isDlgPopupOnTestApp() const;
-    void askForInfoPage(InquireSysStatCode code);
-    /** An information page is made when it is first asked for: building them takes a part of the start-up. */
-    template <typename Page> Page* makeInfoPage(int windowID);
-    void execPowerPage();
-    void execStoragePage();
-    void showMeasuredStorage(const StorageStatus& status);
+    void reportFailure();
     void restoreLastUtilState();
-    void endInquiry();
+
+    // CWindowHost
+    QWidget* dialogParent() override { return this; }
+    bool isTestAppInFront() const override { return m_winVisibleReason == TestAppForeground; }
+    bool isCaptureRunning() const override { return isFSCaptureRunning() || isWSARunning(); }
+    bool isEnding() const override { return m_isTerminating; }
 
     // Focus
     void tapFocusWidget();
@@ -235,12 +260,8 @@ private:
     void clearFocusWidget();
     void resetFocusWidget();
 
-    /** Runs a box of the shell's own look, centred on the working area. @return its answer */
-    int execBox(CMessageBox& box);
-
     static int signalFd[2]; // 0: written by the signal handler, 1: read by the event loop
     std::unique_ptr<QSocketNotifier> snTerminate;
-    bool m_isTerminating = false;
 
     int m_appIndex = -1;
     UtilityID m_CallerID = UTILITY_ID_BEGIN;
@@ -249,18 +270,15 @@ private:
     LanguageCode m_prevLangCode = LANGUAGE_BEGIN;
     VisibleReason m_winVisibleReason = TestAppBackground;
     TestAppAction m_testAppAction = ActionNone;
-    NonInteractiveRegionType m_nonInteractiveType = RegionNone;
+    // As published; nothing here reads them.
+    NonInteractiveRegionType m_nonInteractiveType = CTouchControl::RegionNone;
     QRect m_nonInteractiveRegion;
     bool bIsUILocked = false;
     bool bIsAutoTSCal = false;
     bool bIsClientInBackWithPopup = false; // an information page waits while a test application is in front
     bool bIsShouldFakeDesktopShown = false;
     InquireSysStatCode m_pInqSysStatCode = INQUIRE_SYS_STAT_NONE; // the page that waits
-    bool m_isInquiryServed = false; // it is open, over the fake desktop
-    bool m_isPainted = false;
     int m_saveScreenCount = 0; // screenshots asked for since the start
-    bool m_isLimitReported = false; // the box about their limit is up, or waits for the screen
-    bool m_isUtilStarting = false; // the start window is up and the plug-in not loaded yet
     QString m_saveScreenDirPath = QStringLiteral("/home/arvo/screen");
 
     PowerStatus m_powerStat;
@@ -271,11 +289,11 @@ private:
     std::unique_ptr<CMenuStack> m_pMenuStack;
     QPointer<QWidget> m_pPrevFocusWidget; // carries the focus marker
     QElapsedTimer m_keyEventTime; // since the last key press seen
+    KeyMoment m_lastPress; // by which one that comes a second time is told
     int m_arrowKeyStepLen = 50; // pixels of one search step
 
     CTopBar* m_pTopBar = nullptr;
     CToolBox* m_pToolBox = nullptr;
-    QHash<int, CWidget*> m_innerPages; // built-in pages by UtilityID, the home page included
     CWidget* m_pInnerUtilpage = nullptr; // the one now shown, null while a plug-in is
     CHomePage* m_pHomePage = nullptr;
     CAdvanceMenu* m_pAdvMenu = nullptr;
@@ -284,10 +302,6 @@ private:
     CStartUtilWindow* m_pStartUtilWnd = nullptr;
     CSwitchAppWindow* m_pSwitchAppWnd = nullptr;
     CFakeDesktop* m_pFakeDesk = nullptr;
-
-    CPowerMonitor* m_pPowerMonitor = nullptr;
-    CStorageMonitor* m_pStorageMonitor = nullptr;
-    CStorageMeter* m_pStorageMeter = nullptr;
 
     serv::CSysFailureServ FailureServ;
     CDeviceMonitor* m_pDevMonitor = nullptr;
@@ -301,4 +315,15 @@ private:
     QTimer* m_pSwitchDelayTimer = nullptr;
     QTimer* m_pBatBacklightTimer = nullptr;
     QTimer* m_pACBacklightTimer = nullptr;
+
+    // The window's own; everything above has its name from elsewhere.
+    CTransitions m_transitions;
+    CTouchControl* m_pTouches = nullptr;
+    std::unique_ptr<CBacklight> m_pBacklight;
+    CInfoPages* m_pInfoPages = nullptr;
+    std::unique_ptr<CScreenshots> m_pScreenshots;
+    CInnerPages m_innerPages;
+    bool m_isTerminating = false;
+    bool m_isPainted = false; // the first complete frame
+    bool m_isUtilStarting = false; // the start window is up and the plug-in not loaded yet
 };

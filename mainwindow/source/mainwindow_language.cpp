@@ -44,6 +44,12 @@ void CMainWindow::changeLanguageMiniGui(LanguageCode code)
 
 void CMainWindow::changeLanguage(LanguageCode code)
 {
+    m_transitions.request(CTransitions::Language,
+        [this, code] { m_transitions.perform([this, code] { applyLanguage(code); }); });
+}
+
+void CMainWindow::applyLanguage(LanguageCode code)
+{
     if (code < LANGUAGE_ENGLISH || code > LANGUAGE_RUSSIAN || code == m_prevLangCode)
         return;
 

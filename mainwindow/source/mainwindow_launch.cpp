@@ -5,7 +5,6 @@
 #include "devicemonitor.h"
 #include "pluginman.h"
 #include "shellservice.h"
-#include "utilinterface.h"
 
 #include <QDebug>
 #include <QEvent>
@@ -104,6 +103,7 @@ void CMainWindow::postLaunch()
         return;
     m_pDevMonitor->start(QThread::InheritPriority);
     m_pDevMonitor->wakeupScreen(m_powerStat.bIsBat, 1);
+    m_innerPages.runLaunchWork();
     autoLoadPlugins();
     QThread::msleep(LAUNCH_SETTLE);
     new CShellService(this); // the window owns it
@@ -115,7 +115,7 @@ void CMainWindow::postLaunch()
 void CMainWindow::autoLoadPlugins()
 {
     for (const UtilityID id : RESIDENT_PLUGINS) {
-        if (UtilInterface* plugin = m_pPluginMan->loadPlugin(id))
-            plugin->bkgRun(this);
+        if (m_pPluginMan->loadPlugin(id))
+            m_pPluginMan->runPluginInBackground(this);
     }
 }

@@ -7,10 +7,10 @@
 #include "homepage.h"
 #include "pluginman.h"
 #include "services/processutils.h"
+#include "shellbox.h"
 #include "startutilwindow.h"
 #include "switchappwindow.h"
 #include "topbar.h"
-#include "widgets/messagebox/messagebox.h"
 #include "widgets/toolbox/toolbox.h"
 #include "widgets/widgetstack/kpwidgetstack.h"
 #include "widgets/widgetstyle/widgetstyle.h"
@@ -120,19 +120,19 @@ void CMainWindow::translate()
 
 void CMainWindow::itemChanged(int id)
 {
+    m_transitions.request(CTransitions::Utility, [this, id] { chooseItem(id); });
+}
+
+void CMainWindow::chooseItem(int id)
+{
     if (id == UTILITY_ID_USB_BROWSER) {
-        if (isFSCaptureRunning() || isWSARunning()) {
+        if (isCaptureRunning()) {
             markToolBoxItem();
             return;
         }
         if (!m_storeStat.bIsPlugged) {
-            CMessageBox box(
-                tr("Error"), tr("Cannot find USB drive attached to the unit!"), CMessageBox::Ok, this);
-            box.setMessageAlignment(Qt::AlignCenter);
-            box.setTitleBackgroundColor(CWidgetStyle::ColorAlert);
-            box.setTitleTextSize(20);
-            box.setMessageTextColor(9);
-            execBox(box);
+            execShellBox(
+                ShellBox::NoUsbDrive, *this, tr("Error"), tr("Cannot find USB drive attached to the unit!"));
             triggerHome();
             return;
         }
@@ -208,19 +208,39 @@ void CMainWindow::setTopBarButtonStatus(bool home, bool close)
 
 void CMainWindow::triggerHome()
 {
+    m_transitions.request(CTransitions::Utility, [this] { m_transitions.perform([this] { goHome(); }); });
+}
+
+void CMainWindow::goHome()
+{
     if (m_pPluginMan->isPlugin(m_prevUtilID))
         leavePlugin();
     clearFocusWidget();
     m_pToolBox->collapseAll();
     KpWidgetStack::instance()->popAllPages();
+    m_pSwitchAppWnd->finish(); // else the part of it beside the page would stay
     showHomePage();
     popAllMenuEntry();
 }
 
 void CMainWindow::triggerClose()
 {
+    m_transitions.request(CTransitions::Utility, [this] {
+        // The calibration below asks before anything is left: refused, all stays as it is.
+        const int steps = m_pMenuStack->count();
+        if (steps > 1 && m_pMenuStack->entries().at(steps - 2).entryID == UTILITY_ID_SCREEN) {
+            const int top = m_pMenuStack->top().entryID;
+            if (!confirmCalibration() || m_pMenuStack->count() != steps || m_pMenuStack->top().entryID != top)
+                return;
+        }
+        m_transitions.perform([this] { closeCurrent(); });
+    });
+}
+
+void CMainWindow::closeCurrent()
+{
     if (!m_pMenuStack->isEmpty() && isFileEntry(m_pMenuStack->top().entryID)) {
-        triggerHome();
+        goHome();
         return;
     }
     if (m_pPluginMan->isPlugin(m_prevUtilID)) {
@@ -232,12 +252,14 @@ void CMainWindow::triggerClose()
     popMenuEntry();
     clearFocusWidget();
     if (!m_pMenuStack->isEmpty()) {
-        const int below = m_pMenuStack->top().entryID;
-        changeCurrentUtil(below);
+        const auto below = UtilityID(m_pMenuStack->top().entryID);
+        m_curUtilID = below;
+        switchTo(below);
         if (below != UTILITY_ID_SETTINGS)
             return;
     } else {
         m_pToolBox->collapseAll();
+        m_pSwitchAppWnd->finish();
         showHomePage();
     }
     setTopBarButtonStatus(false, false);

@@ -44,13 +44,18 @@ constexpr ArrowKey ARROW_KEYS[] = {
 void CMainWindow::keyPressEvent(QKeyEvent* event)
 {
     CWidget::keyPressEvent(event);
+    // Forwarded by the application, and passed on by a field or a dialog: one press may come more than once.
+    const KeyMoment press = momentOf(*event);
+    if (isSameMoment(press, m_lastPress))
+        return;
+    m_lastPress = press;
     const int key = event->key();
     qDebug().noquote() << QStringLiteral("Key:%1").arg(key);
 
     // Restarted by ignored presses too: a held key stays one press for as long as it is held. Its first
-    // repetition comes later than the limit.
-    const bool isRepeat
-        = event->isAutoRepeat() || (m_keyEventTime.isValid() && m_keyEventTime.elapsed() < KEY_REPEAT_LIMIT);
+    // repetition comes later than the limit, and on a busy machine any of them may.
+    const bool isRepeat = isKeyRepetition(*event)
+        || (m_keyEventTime.isValid() && m_keyEventTime.elapsed() < KEY_REPEAT_LIMIT);
     m_keyEventTime.start();
     if (isRepeat || (m_winVisibleReason == TestAppForeground && key != Qt::Key_F4) || key < Qt::Key_Escape
         || key > Qt::Key_F4)

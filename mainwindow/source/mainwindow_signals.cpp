@@ -1,4 +1,5 @@
-// Orderly end on SIGHUP and SIGTERM: the handler writes one byte, the event loop reads it and acts.
+// Orderly end on SIGHUP and SIGTERM: the handler writes one byte, the event loop reads it and acts. One that
+// does not come in time, because a plug-in hangs, is ended by force.
 
 #include "mainwindow.h"
 
@@ -9,12 +10,46 @@
 #include <QDebug>
 #include <QSocketNotifier>
 
+#include "startup.h"
+
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <sys/socket.h>
 #include <unistd.h>
 
+namespace {
+
+constexpr unsigned END_LIMIT = 5; // seconds from the signal
+
+std::atomic<bool> isEndUnlimited{false}; // until the first signal; only where limitEnd() was called
+
+void endByForce(int)
+{
+    CLogLine line("###Signal: no end within ");
+    line.number(END_LIMIT).text(" s");
+    if (const char* library = CPluginManager::callInProgress())
+        line.text(", in a call of ").text(library);
+    line.write();
+    ::_exit(1);
+}
+
+} // namespace
+
 int CMainWindow::signalFd[2] = {0, 0};
+
+void limitEnd()
+{
+    struct sigaction action = {};
+    action.sa_handler = endByForce;
+    sigfillset(&action.sa_mask);
+    sigaction(SIGALRM, &action, nullptr);
+    sigset_t alarms;
+    sigemptyset(&alarms);
+    sigaddset(&alarms, SIGALRM);
+    pthread_sigmask(SIG_UNBLOCK, &alarms, nullptr);
+    isEndUnlimited = true;
+}
 
 void CMainWindow::signalInit()
 {
@@ -44,6 +79,8 @@ void CMainWindow::signalHandler(int sig)
         const ssize_t written = ::send(signalFd[0], &byte, sizeof byte, MSG_DONTWAIT | MSG_NOSIGNAL);
         Q_UNUSED(written)
     }
+    if (isEndUnlimited.exchange(false))
+        ::alarm(END_LIMIT);
     errno = savedErrno;
 }
 

@@ -2,14 +2,14 @@
 
 #include "mainwindow.h"
 
+#include "captionpath.h"
 #include "homepage.h"
 #include "pluginman.h"
+#include "shellbox.h"
 #include "startutilwindow.h"
 #include "switchappwindow.h"
 #include "taskmanager.h"
-#include "utilinterface.h"
-#include "widgets/messagebox/messagebox.h"
-#include "widgets/widgetstyle/widgetstyle.h"
+#include "widgets/widgetstack/kpwidgetstack.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -20,11 +20,6 @@ namespace {
 
 constexpr int BROWSER_INPUT_LOCK = 2000; // ms; the browser alone gets it
 
-void processEventsButInput()
-{
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
-
 } // namespace
 
 bool CMainWindow::isUtilAvailable(UtilityID id) const
@@ -34,14 +29,18 @@ bool CMainWindow::isUtilAvailable(UtilityID id) const
 
 bool CMainWindow::confirmCalibration()
 {
-    CMessageBox box(tr("Warning"), tr("Proceed with touch screen calibration?"),
-        CMessageBox::Ok | CMessageBox::Cancel, this);
-    box.setMessageAlignment(Qt::AlignCenter);
-    box.setTitleBackgroundColor(7);
-    box.setTitleTextColor(2);
-    box.setTitleTextSize(20);
-    box.setMessageTextColor(9);
-    return execBox(box) == CMessageBox::Ok;
+    return execShellBox(
+        ShellBox::Calibration, *this, tr("Warning"), tr("Proceed with touch screen calibration?"));
+}
+
+void CMainWindow::tellNotAvailable(UtilityID id)
+{
+    qWarning("Utility %d is not available", int(id));
+    const QStringList path = captionPath(id);
+    if (path.size() < 2)
+        return; // it has no name, and nothing on the screen leads to it
+    execShellBox(
+        ShellBox::NotAvailable, *this, path.last(), tr("%1 is not available on this unit.").arg(path.last()));
 }
 
 void CMainWindow::changeCurrentUtil(int id)
@@ -49,38 +48,47 @@ void CMainWindow::changeCurrentUtil(int id)
     m_curUtilID = UtilityID(id);
     if (id < UTILITY_ID_BEGIN || id > UTILITY_ID_END)
         return;
-    const auto util = UtilityID(id);
-    const bool isPlugin = m_pPluginMan->isPlugin(util);
-    if (util == UTILITY_ID_SCREEN && !bIsAutoTSCal && !confirmCalibration())
-        return;
-    if (util == m_prevUtilID && isPlugin)
-        return;
-    if (!isUtilAvailable(util)) {
-        qWarning("Utility %d is not available", id);
-        return;
-    }
+    const bool isAsking = id == UTILITY_ID_SCREEN && !bIsAutoTSCal;
+    m_transitions.request(CTransitions::Utility, [this, id, isAsking] { openUtil(UtilityID(id), isAsking); });
+}
 
+void CMainWindow::openUtil(UtilityID id, bool isAsking)
+{
+    if (isAsking && !confirmCalibration())
+        return;
+    if (!isUtilAvailable(id))
+        tellNotAvailable(id);
+    else
+        m_transitions.perform([this, id] { switchTo(id); });
+}
+
+void CMainWindow::switchTo(UtilityID id)
+{
+    const bool isPlugin = m_pPluginMan->isPlugin(id);
+    if (id == m_prevUtilID && isPlugin)
+        return;
     clearFocusWidget();
     pushMenuEntry(id, 1);
+    m_pSwitchAppWnd->finish(); // else the part of it beside the new page would stay
     if (isPlugin) {
-        startPlugin(util);
+        startPlugin(id);
     } else {
         leaveUtilPage(m_prevUtilID);
-        showInnerPage(m_innerPages.value(util));
+        showInnerPage(innerPage(id));
     }
-    updateNavigateInfo(util);
-    m_prevUtilID = util;
+    updateNavigateInfo(id);
+    m_prevUtilID = id;
 }
 
 void CMainWindow::startPlugin(UtilityID id)
 {
     leaveUtilPage(m_prevUtilID);
-    processEventsButInput(); // the old page is off the screen before the load blocks it
+    paintNow(); // the old page is off the screen before the load blocks it
     leavePlugin();
     m_pStartUtilWnd->showMessage(m_pPluginMan->getPluginName(id));
     m_pStartUtilWnd->raise();
     if (id == UTILITY_ID_BROWSER) {
-        setNonInteractiveRegion(FullScreen, QRect());
+        m_pTouches->set(&TouchState::isBrowserStarting, true);
         QTimer::singleShot(BROWSER_INPUT_LOCK, this, &CMainWindow::procDelayUnlock);
     }
     m_CallerID = m_prevUtilID;
@@ -90,32 +98,37 @@ void CMainWindow::startPlugin(UtilityID id)
 
 void CMainWindow::utilReady(int id)
 {
-    // The user may have gone elsewhere while the start window was up, and even come back: then two words of
-    // readiness arrive, and the first one counts.
-    const auto util = UtilityID(id);
-    if (util != m_prevUtilID || !m_isUtilStarting)
-        return;
-    m_isUtilStarting = false;
+    m_transitions.request(CTransitions::Ready, [this, id] {
+        // The user may have gone elsewhere while the start window was up, and even come back: then two words
+        // of readiness arrive, and the first one counts.
+        const auto util = UtilityID(id);
+        if (util != m_prevUtilID || !m_isUtilStarting)
+            return;
+        std::optional<QString> error;
+        m_transitions.perform([&] { error = loadAndStart(util); });
+        if (error)
+            execShellBox(ShellBox::PluginError, *this, tr("Load plugin"), *error);
+    });
+}
 
+std::optional<QString> CMainWindow::loadAndStart(UtilityID id)
+{
+    m_isUtilStarting = false;
     m_pPluginMan->clearError(); // what an earlier utility left
-    UtilInterface* plugin = m_pPluginMan->loadPlugin(util);
-    if (!plugin) {
-        showPluginError(m_pPluginMan->errorString());
-        return;
-    }
-    if (util == UTILITY_ID_SCREEN)
-        setNonInteractiveRegion(FullScreen, QRect()); // the calibration owns all input
-    plugin->setCallerID(m_CallerID);
-    const bool isStarted = plugin->start(this);
-    if (QObject* object = plugin->getObject())
+    if (!m_pPluginMan->loadPlugin(id))
+        return m_pPluginMan->errorString();
+    m_pTouches->set(&TouchState::isCalibrating, id == UTILITY_ID_SCREEN); // it owns all input
+    const bool isStarted = m_pPluginMan->startPlugin(this, m_CallerID);
+    if (QObject* object = m_pPluginMan->getPluginObject())
         connectPluginSignals(object);
-    if (!isStarted) {
-        qWarning("Plug-in %d did not start", id);
-        m_pPluginMan->unloadPlugin();
-        if (util == UTILITY_ID_SCREEN)
-            procDelayUnlock(); // nobody is there to own the input, and the box needs it
-        showPluginError(tr("The utility could not be started."));
+    if (isStarted) {
+        m_pStartUtilWnd->hide(); // a page that does not fill its ground would show it
+        return {};
     }
+    qWarning("Plug-in %d did not start", int(id));
+    m_pPluginMan->unloadPlugin();
+    m_pTouches->set(&TouchState::isCalibrating, false); // nobody is there to own the input
+    return tr("The utility could not be started.");
 }
 
 void CMainWindow::connectPluginSignals(QObject* object)
@@ -139,17 +152,6 @@ void CMainWindow::connectPluginSignals(QObject* object)
     }
 }
 
-void CMainWindow::showPluginError(const QString& text)
-{
-    CMessageBox box(tr("Load plugin"), text, CMessageBox::Ok, this);
-    box.setTitleBackgroundColor(CWidgetStyle::ColorAlert);
-    // A test application may have come while the utility was starting: the box waits for the shell to come
-    // back.
-    if (m_winVisibleReason == TestAppForeground)
-        connect(&box, &CDialog::popOn, &box, [&box] { box.setAside(true); });
-    execBox(box);
-}
-
 void CMainWindow::pluginRequestToClose()
 {
     triggerHome();
@@ -157,13 +159,9 @@ void CMainWindow::pluginRequestToClose()
 
 void CMainWindow::procDelayUnlock()
 {
-    if (bIsUILocked)
-        return; // only F4 ends that, and then sets the region
     if (m_winVisibleReason == OtherReason)
         return;
-    setNonInteractiveRegion(RegionNone, QRect()); // with the grab of the whole screen
-    if (m_winVisibleReason == TestAppForeground)
-        setNonInteractiveRegion(ExcludeBottomBar, QRect());
+    m_pTouches->set(&TouchState::isBrowserStarting, false);
 }
 
 void CMainWindow::leavePlugin()
@@ -171,18 +169,17 @@ void CMainWindow::leavePlugin()
     m_isUtilStarting = false;
     m_pStartUtilWnd->hide();
     m_pPluginMan->unloadPlugin();
-    if (m_prevUtilID == UTILITY_ID_SCREEN)
-        procDelayUnlock(); // the calibration owned all input
+    m_pTouches->set(&TouchState::isCalibrating, false);
 }
 
 void CMainWindow::leaveUtilPage(UtilityID id)
 {
-    processEventsButInput();
     if (m_pPluginMan->isPlugin(id))
         leavePlugin();
     else if (m_pInnerUtilpage)
         m_pInnerUtilpage->hide();
     m_pInnerUtilpage = nullptr;
+    KpWidgetStack::instance()->popAllPages(); // what the page had laid over itself goes with it
 }
 
 void CMainWindow::showInnerPage(CWidget* page)
@@ -204,7 +201,7 @@ void CMainWindow::hideCurrentUtilPage()
 {
     if (m_pPluginMan->isPlugin(m_prevUtilID))
         m_pPluginMan->setPluginWindowVisible(false);
-    else if (CWidget* page = m_innerPages.value(m_prevUtilID))
+    else if (CWidget* page = innerPage(m_prevUtilID))
         page->hide();
     if (m_pSwitchAppWnd->isVisible())
         m_pSwitchAppWnd->hide();
@@ -214,12 +211,21 @@ void CMainWindow::showCurrentUtilPage()
 {
     if (m_pPluginMan->isPlugin(m_prevUtilID)) {
         m_pPluginMan->setPluginWindowVisible(true);
-    } else if (CWidget* page = m_innerPages.value(m_prevUtilID)) {
+    } else if (CWidget* page = innerPage(m_prevUtilID)) {
         page->show();
         page->raise();
     }
     if (m_testAppAction != ActionNone)
         m_pSwitchAppWnd->start(switchMessage());
+}
+
+void CMainWindow::setTestAppAction(TestAppAction action)
+{
+    m_testAppAction = action;
+    if (action == ActionNone)
+        m_pSwitchAppWnd->finish();
+    else if (m_pSwitchAppWnd->isVisible())
+        m_pSwitchAppWnd->showMessage(switchMessage());
 }
 
 QString CMainWindow::switchMessage() const

@@ -3,10 +3,12 @@
 #include "mainwindow.h"
 
 #include "fakedesktop.h"
+#include "infopages.h"
 #include "topbar.h"
 #include "widgets/dialog/dialog.h"
 #include "widgets/toolbox/toolbox.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QThread>
@@ -24,6 +26,12 @@ constexpr int AREA_HEIGHT = 460;
 
 void CMainWindow::setWindowVisible(bool visible)
 {
+    m_transitions.request(CTransitions::Visibility,
+        [this, visible] { m_transitions.perform([this, visible] { applyVisible(visible); }); });
+}
+
+void CMainWindow::applyVisible(bool visible)
+{
     if (visible) {
         QThread::msleep(SETTLE_BEFORE_SHOWING);
         recoverAppAreaUpdate();
@@ -35,9 +43,7 @@ void CMainWindow::setWindowVisible(bool visible)
             child->update();
         repaint();
         setDialogsAside(false);
-        endInquiry(); // the test application went while its page was open
-        if (m_nonInteractiveType == ExcludeBottomBar)
-            procDelayUnlock(); // that was for the test application
+        m_pInfoPages->endRequest(); // the test application went while its page was open
     } else {
         setDialogsAside(true);
         hideCurrentUtilPage();
@@ -62,9 +68,15 @@ void CMainWindow::setDialogsAside(bool aside)
     }
 }
 
-void CMainWindow::setWindowHidden(VisibleReason reason)
+void CMainWindow::setVisibleReason(VisibleReason reason)
 {
     m_winVisibleReason = reason;
+    m_pTouches->set(&TouchState::isTestAppInFront, reason == TestAppForeground);
+}
+
+void CMainWindow::setWindowHidden(VisibleReason reason)
+{
+    setVisibleReason(reason);
     if (reason == TestAppForeground)
         setBarsVisible(false);
     else if (reason == OtherReason)
@@ -73,7 +85,7 @@ void CMainWindow::setWindowHidden(VisibleReason reason)
 
 void CMainWindow::setWindowShown(VisibleReason reason)
 {
-    m_winVisibleReason = reason;
+    setVisibleReason(reason);
     if (reason == TestAppBackground)
         setBarsVisible(true);
     else if (reason == OtherReason)
@@ -92,6 +104,24 @@ void CMainWindow::recoverAppAreaUpdate()
     const QRect window = rect();
     setMask(QRegion(QPolygon({window.topLeft(), QPoint(window.right() + 2, window.top()),
         QPoint(window.right() + 2, window.bottom() + 2), QPoint(window.left(), window.bottom() + 2)})));
+}
+
+void CMainWindow::resizeEvent(QResizeEvent* event)
+{
+    CWidget::resizeEvent(event);
+    if (mask().isEmpty())
+        return;
+    if (m_winVisibleReason == TestAppForeground)
+        blockAppAreaUpdate();
+    else
+        recoverAppAreaUpdate();
+}
+
+void CMainWindow::paintNow()
+{
+    // Only the painting: an event loop here would let the next switch into the middle of this one.
+    QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
+    flushScreen();
 }
 
 void CMainWindow::grabFakeDesktop()

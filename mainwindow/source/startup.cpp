@@ -1,5 +1,6 @@
 #include "commutils.h"
 #include "mainwindow.h"
+#include "standardstreams.h"
 
 #include <QDebug>
 #include <QDir>
@@ -7,11 +8,11 @@
 #include <QFileInfo>
 #include <QThread>
 
+#include "logwrite.h"
 #include "startup.h"
 
 #include <cerrno>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
@@ -109,6 +110,7 @@ void setup_unix_signal_handlers()
         sigaction(sig, &action, nullptr);
         sigaddset(&held, sig);
     }
+    limitEnd();
     // There is no event loop to wake yet: the signals wait until CMainWindow::signalInit() lets them through.
     pthread_sigmask(SIG_BLOCK, &held, nullptr);
 }
@@ -143,7 +145,7 @@ void exit_sig_handler(int sig)
 
 void poweroff_sig_handler(int sig)
 {
-    std::printf("poweroff_sig_handler signo=%d\n", sig);
+    CLogLine("poweroff_sig_handler signo=").number(sig).write(STDOUT_FILENO);
 }
 
 int x_error_handler(Display* display, XErrorEvent* error)
@@ -151,6 +153,7 @@ int x_error_handler(Display* display, XErrorEvent* error)
     char text[1024] = "";
     XGetErrorText(display, error->error_code, text, sizeof text);
     // The plain "n" at the end is part of the format.
-    std::fprintf(stderr, ":: X Error - %s (%d)n", text, error->request_code);
+    standardstreams::write(STDERR_FILENO,
+        ":: X Error - " + QByteArray(text) + " (" + QByteArray::number(error->request_code) + ")n");
     return 0;
 }

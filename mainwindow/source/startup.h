@@ -13,8 +13,26 @@
  */
 bool initConfiguration();
 
+/**
+ * Makes the process independent of how it was started: standard streams that are open and never wait
+ * (standardstreams), Qt's messages into them, files of mode 0644 and directories of mode 0755, no end by a
+ * broken pipe. First in main().
+ */
+void prepareProcess();
+
+/**
+ * Takes the instrument for this shell, until the process ends. Another shell gets two seconds to end.
+ * @return false when it does not (logged); an instrument without a usable lock file is taken all the same
+ * (logged)
+ */
+bool lockInstrument();
+
 /** Routes SIGHUP and SIGTERM to CMainWindow::signalHandler; held back until the window can take them. */
 void setup_unix_signal_handlers();
+
+/** From now on the process ends by force, with status 1, when it still runs 5 s after the first of the two
+ * signals. */
+void limitEnd();
 
 /** SIGCHLD handler: reaps children until none is left, waiting for those that still run. */
 void child_handler(int sig);

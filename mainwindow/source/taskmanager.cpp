@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileSystemWatcher>
+#include <QTimer>
 
 namespace {
 
@@ -49,6 +50,17 @@ void CTaskManager::startUtil(int id)
     m_utilID = id;
     m_operCode = StartUtility;
     start(QThread::InheritPriority);
+    // No room for one more thread, which QThread has logged: the event loop does the waiting.
+    if (!isRunning() && !isFinished())
+        QTimer::singleShot(int(START_DELAY), this, &CTaskManager::startWithoutThread);
+}
+
+void CTaskManager::startWithoutThread()
+{
+    const int id = m_utilID.exchange(-1);
+    if (id >= 0) // else a request of the same time has been served
+        emit utilStarted(id);
+    finishTask();
 }
 
 void CTaskManager::run()

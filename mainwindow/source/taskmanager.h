@@ -55,6 +55,7 @@ protected:
 
 private:
     void initFSWatcher();
+    void startWithoutThread();
 
     std::atomic<int> m_operCode{NoCtrl};
     std::atomic<int> m_clientWndState{0};

@@ -1,9 +1,13 @@
 #pragma once
 
-#include <QEvent>
 #include <QObject>
+#include <QSet>
 
-/** Tells of every touch on any widget of the process, whoever handles it. An event filter of the application.
+class CDialog;
+
+/**
+ * Tells of what decides about touches and happens anywhere in the process: every touch on any widget, whoever
+ * handles it, and every dialog that comes up or goes. An event filter of the application. Interface thread.
  */
 class CTouchWatch : public QObject
 {
@@ -12,14 +16,16 @@ class CTouchWatch : public QObject
 public:
     using QObject::QObject;
 
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        // The event first goes to the native window; the widget's own is the one that counts.
-        if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType())
-            emit touched();
-        return QObject::eventFilter(watched, event);
-    }
+    /** True while a dialog is up that its owner has not set aside. */
+    bool isDialogUp() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     void touched();
+    /** A dialog came up, went, was set aside or taken back. */
+    void dialogsChanged();
+
+private:
+    QSet<QObject*> m_dialogs; // those that are up; each leaves the set before its destructor is through
 };

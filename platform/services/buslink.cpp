@@ -8,6 +8,7 @@
 #include <deque>
 #include <poll.h>
 #include <sys/eventfd.h>
+#include <system_error>
 #include <systemd/sd-bus.h>
 #include <unistd.h>
 #include <utility>
@@ -306,9 +307,14 @@ bool CBusLink::start()
     sigset_t before;
     sigfillset(&all);
     pthread_sigmask(SIG_SETMASK, &all, &before);
-    m_thread = std::thread([this] { m_worker->run(); });
+    try {
+        m_thread = std::thread([this] { m_worker->run(); });
+    } catch (const std::system_error& error) { // no room for one more thread; the next call tries again
+        qWarning("Platform bus: no thread - %s", error.what());
+        m_worker.reset();
+    }
     pthread_sigmask(SIG_SETMASK, &before, nullptr);
-    return true;
+    return m_worker != nullptr;
 }
 
 bool CBusLink::call(const char* interface, const char* method, std::optional<int> argument, QString* text)

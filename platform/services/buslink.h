@@ -22,7 +22,8 @@ namespace serv {
  * nothing.
  *
  * The thread that talks to the bus starts with the first call and takes no signals; a link that is never used
- * costs nothing. Destruction ends it at once, whatever the bus does.
+ * costs nothing. A call for which it cannot be started fails, and the next one tries again. Destruction ends
+ * it at once, whatever the bus does.
  *
  * Any thread may call.
  */

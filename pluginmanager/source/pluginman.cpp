@@ -3,9 +3,17 @@
 #include "utilinterface.h"
 
 #include <QDebug>
+#include <QFile>
 #include <QPluginLoader>
+#include <QScopeGuard>
+
+#include <atomic>
+#include <dlfcn.h>
+#include <exception>
 
 namespace {
+
+std::atomic<const char*> libraryInCall{nullptr};
 
 struct PluginRow
 {
@@ -53,6 +61,22 @@ const PluginRow* findRow(UtilityID id)
     return nullptr;
 }
 
+/** Calls into a plug-in, whatever it throws. @return false when it threw (logged) */
+bool callPlugin(const char* library, const std::function<void()>& call)
+{
+    const char* before = libraryInCall.exchange(library); // calls nest
+    const auto ended = qScopeGuard([before] { libraryInCall = before; });
+    try {
+        call();
+        return true;
+    } catch (const std::exception& exception) {
+        qCritical("Exception out of plug-in %s: %s", library, exception.what());
+    } catch (...) {
+        qCritical("Exception out of plug-in %s", library);
+    }
+    return false;
+}
+
 } // namespace
 
 CPluginManager::CPluginManager(QObject* parent)
@@ -83,22 +107,34 @@ QString CPluginManager::getPluginFileName(UtilityID id)
     return QStringLiteral("%1/%2").arg(getPluginDirPath(), QString::fromLatin1(row->library));
 }
 
-QObject* CPluginManager::getPluginInstance(UtilityID id)
+QObject* CPluginManager::instantiate(UtilityID id)
 {
     m_pPluginLoader->setFileName(getPluginFileName(id));
-    return m_pPluginLoader->instance();
+    const PluginRow* row = findRow(id);
+    QObject* root = nullptr;
+    // Runs code of the library: its static objects and its root object are made.
+    if (!callPlugin(row ? row->library : "", [&] { root = m_pPluginLoader->instance(); }))
+        setError(tr("The utility could not be started.")); // the loader knows of nothing
+    return root;
+}
+
+QObject* CPluginManager::getPluginInstance(UtilityID id)
+{
+    return instantiate(id);
 }
 
 UtilInterface* CPluginManager::loadPlugin(UtilityID id)
 {
-    const QString fileName = getPluginFileName(id);
-    if (fileName.isEmpty())
+    const PluginRow* row = findRow(id);
+    if (!row) {
+        getPluginFileName(id); // sets the error
         return nullptr;
-    m_pPluginLoader->setFileName(fileName);
-    QObject* root = m_pPluginLoader->instance();
+    }
+    QObject* root = instantiate(id);
     m_pCurPlugin = qobject_cast<UtilInterface*>(root);
+    m_pCurLibrary = row->library;
     if (root && !m_pCurPlugin) // the loader found nothing wrong and has no better text for the user
-        qWarning().noquote() << fileName << "does not implement" << UtilInterface_iid;
+        qWarning().noquote() << m_pPluginLoader->fileName() << "does not implement" << UtilInterface_iid;
     return m_pCurPlugin;
 }
 
@@ -107,37 +143,80 @@ bool CPluginManager::isPluginLoaded() const
     return m_pCurPlugin && m_pPluginLoader->isLoaded();
 }
 
+bool CPluginManager::callCurrent(const std::function<void()>& call) const
+{
+    return isPluginLoaded() && callPlugin(m_pCurLibrary, call);
+}
+
+bool CPluginManager::runPluginInBackground(QWidget* host)
+{
+    bool isDone = false;
+    callCurrent([&] { isDone = m_pCurPlugin->bkgRun(host); });
+    return isDone;
+}
+
+bool CPluginManager::startPlugin(QWidget* host, UtilityID caller)
+{
+    bool isDone = false;
+    callCurrent([&] {
+        m_pCurPlugin->setCallerID(caller);
+        isDone = m_pCurPlugin->start(host);
+    });
+    return isDone;
+}
+
+QObject* CPluginManager::getPluginObject()
+{
+    QObject* object = nullptr;
+    callCurrent([&] { object = m_pCurPlugin->getObject(); });
+    return object;
+}
+
 bool CPluginManager::unloadPlugin()
 {
-    return isPluginLoaded() && m_pCurPlugin->stop();
+    bool isDone = false;
+    callCurrent([&] { isDone = m_pCurPlugin->stop(); });
+    return isDone;
 }
 
 bool CPluginManager::terminatePlugin()
 {
     bool allLoaded = true;
     for (const UtilityID id : BACKGROUND_PLUGINS) {
-        if (UtilInterface* plugin = loadPlugin(id))
-            plugin->terminate();
-        else
-            allLoaded = false;
+        allLoaded = loadPlugin(id) && allLoaded;
+        callCurrent([this] { m_pCurPlugin->terminate(); });
     }
     return allLoaded;
 }
 
 void CPluginManager::updatePluginWindow()
 {
-    if (isPluginLoaded())
-        m_pCurPlugin->update();
+    callCurrent([this] { m_pCurPlugin->update(); });
 }
 
 void CPluginManager::setPluginWindowVisible(bool visible)
 {
-    if (!isPluginLoaded())
-        return;
-    if (visible)
-        m_pCurPlugin->show();
-    else
-        m_pCurPlugin->hide();
+    callCurrent([&] {
+        if (visible)
+            m_pCurPlugin->show();
+        else
+            m_pCurPlugin->hide();
+    });
+}
+
+QString CPluginManager::libraryOf(const QMetaObject* type)
+{
+    Dl_info place = {};
+    if (!::dladdr(type, &place) || !place.dli_fname)
+        return {};
+    const QString path = QFile::decodeName(place.dli_fname);
+    const QString directory = getPluginDirPath() + QLatin1Char('/');
+    return path.startsWith(directory) ? path.mid(directory.size()) : QString();
+}
+
+const char* CPluginManager::callInProgress()
+{
+    return libraryInCall;
 }
 
 bool CPluginManager::hasSubPlugin(UtilityID id) const

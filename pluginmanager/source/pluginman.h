@@ -6,12 +6,18 @@
 #include <QString>
 #include <QVector>
 
+#include <functional>
+
 class QPluginLoader;
+class QWidget;
 class UtilInterface;
 
 /**
  * Finds, loads and drives the utility plug-ins. One is current at a time: the one loaded last. Libraries stay
  * mapped for the life of the process, so leaving a plug-in only stops it.
+ *
+ * Every call into a plug-in is made here. What a plug-in throws ends here too: it is logged with the
+ * library's name, and the call counts as failed.
  *
  * Interface thread. Owned by the main window; the plug-ins' root objects belong to the loader.
  */
@@ -31,6 +37,13 @@ public:
     /** Loads the utility's library and makes it the current plug-in. @return null when that failed, see
      * errorString() */
     UtilInterface* loadPlugin(UtilityID id);
+    /** Starts the current plug-in for the utility that was shown before. @return its answer, false when none
+     * is loaded */
+    bool startPlugin(QWidget* host, UtilityID caller);
+    /** Starts the current plug-in without showing it. @return its answer, false when none is loaded */
+    bool runPluginInBackground(QWidget* host);
+    /** The object whose signals the current plug-in offers; null when it has none. */
+    QObject* getPluginObject();
     /** Stops the current plug-in. @return its answer, false when none is loaded */
     bool unloadPlugin();
     /** Ends the background work of the plug-ins that have any. @return true when all of them could be loaded
@@ -53,11 +66,21 @@ public:
     void setError(const QString& text);
     void clearError();
 
+    /** File name of the library loaded last; empty before. */
+    QString currentLibrary() const { return QString::fromLatin1(m_pCurLibrary); }
+    /** File name of the plug-in's library that the class is from; empty for every other class. Any thread. */
+    static QString libraryOf(const QMetaObject* type);
+    /** File name of the library that the shell is in a call of; null for none. For signal context. */
+    static const char* callInProgress();
+
 private:
     bool isPluginLoaded() const;
+    QObject* instantiate(UtilityID id);
+    bool callCurrent(const std::function<void()>& call) const;
 
     QPluginLoader* m_pPluginLoader; // child of the manager
     UtilInterface* m_pCurPlugin = nullptr; // of the library loaded last; belongs to the loader
+    const char* m_pCurLibrary = ""; // its file name
     bool bIsError = false;
     QString m_errorString;
     QVector<UtilityID> m_notAccomplishList;

@@ -56,12 +56,18 @@ private:
         if (cell.ground.isEmpty())
             return;
         const Ground ground = m_table.ground(cell.ground);
-        const qreal inner = ground.frameWidth / 2.0;
+        const qreal edge = ground.edge.isValid() ? 1 : 0;
+        const qreal inner = ground.frameWidth / 2.0 + edge;
         const QRectF rect
             = QRectF(cell.rect.marginsRemoved(ground.inset)).adjusted(inner, inner, -inner, -inner);
+        painter.setBrush(ground.fill.isValid() ? QBrush(ground.fill) : QBrush(Qt::NoBrush));
+        if (ground.edge.isValid()) {
+            painter.setPen(QPen(ground.edge, ground.frameWidth + 2 * edge));
+            painter.drawRoundedRect(rect, ground.radius, ground.radius);
+            painter.setBrush(Qt::NoBrush);
+        }
         painter.setPen(
             ground.frameWidth > 0 ? QPen(ground.frame, ground.frameWidth, ground.line) : QPen(Qt::NoPen));
-        painter.setBrush(ground.fill.isValid() ? QBrush(ground.fill) : QBrush(Qt::NoBrush));
         painter.drawRoundedRect(rect, ground.radius, ground.radius);
     }
 

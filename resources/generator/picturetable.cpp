@@ -17,7 +17,7 @@ constexpr struct
 } KNOWN[] = {
     {"pictures", ""},
     {"color", "name value"},
-    {"ground", "name fill frame frame-width dashed inset radius"},
+    {"ground", "name fill frame frame-width dashed edge inset radius"},
     {"look", "x ground"},
     {"picture", "name width height glyph-size"},
     {"cell", "rect ground glyphs glyph-size shift"},
@@ -86,6 +86,8 @@ void CPictureTable::readGround(const QXmlStreamAttributes& attributes)
         ground.frame = color(text(attributes, "frame"));
         ground.frameWidth = number(attributes, "frame-width", 0);
     }
+    if (attributes.hasAttribute(QLatin1String("edge")))
+        ground.edge = color(text(attributes, "edge"));
     if (attributes.hasAttribute(QLatin1String("dashed")))
         ground.line = Qt::DashLine;
     if (attributes.hasAttribute(QLatin1String("inset"))) {

@@ -25,6 +25,7 @@ struct Ground
     QColor fill; ///< invalid: not filled
     QColor frame;
     qreal frameWidth = 0; ///< 0: no frame
+    QColor edge; ///< of a line of one pixel along both sides of the frame; invalid: none
     Qt::PenStyle line = Qt::SolidLine;
     QMargins inset; ///< distance from the cell's edges
     qreal radius = 0;
@@ -51,7 +52,7 @@ struct Picture
  * The declarative table of all pictures (pictures.xml):
  *
  *   color   name value                             a name for a colour (#rrggbb or #aarrggbb)
- *   ground  name [fill] [frame frame-width dashed] [inset="left,top,right,bottom"] [radius]
+ *   ground  name [fill] [frame frame-width dashed edge] [inset="left,top,right,bottom"] [radius]
  *   look    x ground                               one look of a touch button, for every <button>
  *   picture name width height [glyph-size]
  *     cell    rect="x,y,w,h" [ground] [glyphs] [glyph-size] [shift="x,y"]

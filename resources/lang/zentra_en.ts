@@ -512,6 +512,10 @@ or exceed maximum number allowed!</translation>
         <source>Invalid plugin ID.</source>
         <translation>Invalid plugin ID.</translation>
     </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>The utility could not be started.</translation>
+    </message>
 </context>
 <context>
     <name>CPowerMonitor</name>

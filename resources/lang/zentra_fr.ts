@@ -512,6 +512,10 @@ enregistrées est atteint ou dépassé !</translation>
         <source>Invalid plugin ID.</source>
         <translation>Identifiant de module non valide.</translation>
     </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>L’utilitaire n’a pas pu démarrer.</translation>
+    </message>
 </context>
 <context>
     <name>CPowerMonitor</name>

@@ -512,6 +512,10 @@ ist erreicht oder überschritten!</translation>
         <source>Invalid plugin ID.</source>
         <translation>Ungültige Plug-in-Kennung.</translation>
     </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>Das Programm konnte nicht gestartet werden.</translation>
+    </message>
 </context>
 <context>
     <name>CPowerMonitor</name>

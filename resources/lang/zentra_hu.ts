@@ -512,6 +512,10 @@ vagy meghaladta a megengedettet!</translation>
         <source>Invalid plugin ID.</source>
         <translation>Érvénytelen bővítményazonosító.</translation>
     </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>A segédprogram nem indítható el.</translation>
+    </message>
 </context>
 <context>
     <name>CPowerMonitor</name>

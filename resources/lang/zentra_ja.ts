@@ -512,6 +512,10 @@ or exceed maximum number allowed!</source>
         <source>Invalid plugin ID.</source>
         <translation>プラグイン ID が無効です。</translation>
     </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>ユーティリティを開始できませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>CPowerMonitor</name>

@@ -512,6 +512,10 @@ or exceed maximum number allowed!</source>
         <source>Invalid plugin ID.</source>
         <translation>Недопустимый идентификатор модуля.</translation>
     </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>Не удалось запустить утилиту.</translation>
+    </message>
 </context>
 <context>
     <name>CPowerMonitor</name>

@@ -511,6 +511,10 @@ or exceed maximum number allowed!</source>
         <source>Invalid plugin ID.</source>
         <translation>插件标识无效。</translation>
     </message>
+    <message>
+        <source>The utility could not be started.</source>
+        <translation>无法启动该实用程序。</translation>
+    </message>
 </context>
 <context>
     <name>CPowerMonitor</name>

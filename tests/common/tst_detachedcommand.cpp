@@ -9,6 +9,7 @@
 #include <fcntl.h>
 
 using Lines = QStringList;
+Q_DECLARE_METATYPE(ReadResult)
 
 static QStringList shell(const char* script)
 {
@@ -23,11 +24,11 @@ static int openDescriptors()
 static Lines linesOf(const QStringList& argv, int timeoutMs = 20000)
 {
     Lines lines;
-    const bool started = readCommandLines(argv, timeoutMs, [&lines](const QString& line) {
+    const ReadResult result = readCommandLines(argv, timeoutMs, [&lines](const QString& line) {
         lines << line;
         return true;
     });
-    if (!started)
+    if (result == ReadResult::NotStarted)
         return {"not started"_s};
     return lines;
 }
@@ -51,6 +52,7 @@ private slots:
     void environmentOfTheCommand();
     void endsWhatIsNotWanted_data();
     void endsWhatIsNotWanted();
+    void leavesWhatHasEnded();
     void manyThreadsBesideTheReaper();
     void keepsNoDescriptors();
     void asynchronousLines();
@@ -125,7 +127,7 @@ void tst_DetachedCommand::startFailures()
         qPrintable(command.errorText()));
     QCOMPARE(command.pid(), -1);
     QCOMPARE(command.fd(), -1);
-    QVERIFY(!readCommandLines(argv, 1000, [](const QString&) { return true; }));
+    QCOMPARE(readCommandLines(argv, 1000, [](const QString&) { return true; }), ReadResult::NotStarted);
     QCOMPARE(openDescriptors(), before);
 }
 
@@ -154,10 +156,14 @@ void tst_DetachedCommand::endsWhatIsNotWanted_data()
 {
     QTest::addColumn<QByteArray>("script");
     QTest::addColumn<int>("timeoutMs");
-    QTest::newRow("no more lines wanted") << QByteArray("echo $$; exec yes") << -1;
-    QTest::newRow("time-out") << QByteArray("echo $$; exec sleep 60") << 300;
-    QTest::newRow("whole group") << QByteArray("echo $$; sleep 60 & sleep 61") << 300;
-    QTest::newRow("deaf to SIGTERM") << QByteArray("trap '' TERM; echo $$; sleep 60; sleep 60") << 300;
+    QTest::addColumn<ReadResult>("expected");
+    QTest::newRow("no more lines wanted") << QByteArray("echo $$; exec yes") << -1 << ReadResult::Stopped;
+    QTest::newRow("time-out") << QByteArray("echo $$; exec sleep 60") << 300 << ReadResult::TimedOut;
+    QTest::newRow("whole group") << QByteArray("echo $$; sleep 60 & sleep 61") << 300 << ReadResult::TimedOut;
+    QTest::newRow("deaf to SIGTERM") << QByteArray("trap '' TERM; echo $$; sleep 60; sleep 60") << 300
+                                     << ReadResult::TimedOut;
+    QTest::newRow("closes its output and stays")
+        << QByteArray("echo $$; exec 1>&- 2>&-; exec sleep 60") << -1 << ReadResult::Ended;
 }
 
 void tst_DetachedCommand::endsWhatIsNotWanted()
@@ -165,13 +171,33 @@ void tst_DetachedCommand::endsWhatIsNotWanted()
     QFETCH(QByteArray, script);
     QFETCH(int, timeoutMs);
     pid_t group = -1;
-    QVERIFY(readCommandLines(shell(script.constData()), timeoutMs, [&group](const QString& line) {
-        if (group < 0)
-            group = line.toInt();
-        return line != QLatin1String("y");
-    }));
+    const ReadResult result
+        = readCommandLines(shell(script.constData()), timeoutMs, [&group](const QString& line) {
+              if (group < 0)
+                  group = line.toInt();
+              return line != QLatin1String("y");
+          });
+    QTEST(result, "expected");
     QVERIFY(group > 0);
     QTRY_VERIFY(isGroupGone(group));
+}
+
+// The number of what has ended may be somebody else's by now: no signal goes there.
+void tst_DetachedCommand::leavesWhatHasEnded()
+{
+    // What outlives the command here is still in its group.
+    const Lines lines
+        = linesOf(shell("(trap 'echo TERM >>/tmp/signals' TERM; trap 'echo ours >>/tmp/signals' WINCH;"
+                        "echo ready >/tmp/signals; while :; do sleep 0.05; done) >/dev/null 2>&1 &"
+                        "echo $!"));
+    QCOMPARE(lines.size(), 1);
+    const pid_t other = lines.first().toInt();
+    QVERIFY(other > 0);
+    QTRY_VERIFY(readFile("/tmp/signals"_s).startsWith("ready"));
+    QCOMPARE(::kill(other, SIGWINCH), 0);
+    QTRY_VERIFY(readFile("/tmp/signals"_s).contains("ours")); // a lower number would have come before
+    QCOMPARE(::kill(other, SIGKILL), 0);
+    QCOMPARE(readFile("/tmp/signals"_s), QByteArray("ready\nours\n"));
 }
 
 void tst_DetachedCommand::manyThreadsBesideTheReaper()

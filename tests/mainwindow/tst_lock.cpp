@@ -1,4 +1,5 @@
 #include "drivenwindow.h"
+#include "pointergrab.h"
 #include "powermonitor.h"
 #include "sigtransfer.h"
 #include "widgets/keypad/keypaddialog.h"
@@ -72,6 +73,8 @@ private slots:
     void cleanup();
 
     void lockedScreenTakesNoTouch();
+    void foreignGrabDelaysTheLock_data();
+    void foreignGrabDelaysTheLock();
     void lockHoldsInsideDialogs_data();
     void lockHoldsInsideDialogs();
     void pageThatComesUpDoesNotUnlock();
@@ -135,6 +138,41 @@ void TestLock::lockedScreenTakesNoTouch()
     QCOMPARE(locked.size(), 0);
     m_screen.touch(middleOf(header[0]));
     QTRY_COMPARE(locked.size(), 1);
+}
+
+void TestLock::foreignGrabDelaysTheLock_data()
+{
+    QTest::addColumn<int>("grab");
+    QTest::newRow("a button of the screen") << int(CXScreen::GrabButton);
+    QTest::newRow("the whole pointer") << int(CXScreen::GrabPointer);
+}
+
+void TestLock::foreignGrabDelaysTheLock()
+{
+    QFETCH(int, grab);
+    const QPoint below(400, 470);
+    const auto* lock = m_window->findChild<CPointerGrab*>();
+    QVERIFY(lock);
+    auto other = std::make_unique<CXScreen>();
+    QVERIFY(other->grab(CXScreen::Grab(grab)));
+    QTest::ignoreMessage(QtWarningMsg, "Another client holds the pointer: touches are not locked yet");
+    press(Qt::Key_F4);
+    QCOMPARE(region(), WHOLE_SCREEN);
+    QTest::ignoreMessage(QtWarningMsg, "The pointer is free again: touches are locked");
+    QVERIFY(!lock->isHeld());
+    other.reset();
+    QTRY_VERIFY(lock->isHeld());
+    QVERIFY(!m_screen.isTouchDelivered(below));
+    press(Qt::Key_F4);
+    QVERIFY(m_screen.isTouchDelivered(below));
+    // Unlocked before the other client lets go: nothing is tried any longer.
+    other = std::make_unique<CXScreen>();
+    QVERIFY(other->grab(CXScreen::Grab(grab)));
+    QTest::ignoreMessage(QtWarningMsg, "Another client holds the pointer: touches are not locked yet");
+    press(Qt::Key_F4);
+    press(Qt::Key_F4);
+    other.reset();
+    QVERIFY(m_screen.isTouchDelivered(below));
 }
 
 void TestLock::lockHoldsInsideDialogs_data()

@@ -163,7 +163,9 @@ void TestMainWindow::unavailableUtilityKeepsThePage()
     StorageStatus attached;
     attached.bIsPlugged = true;
     QVERIFY(QMetaObject::invokeMethod(m_window.get(), "updateStorageStatus", Q_ARG(StorageStatus, attached)));
+    CBoxAnswer told("ok");
     choose(UTILITY_ID_USB_BROWSER);
+    QCOMPARE(told.text(), QStringLiteral("USB is not available on this unit."));
     QVERIFY(QMetaObject::invokeMethod(
         m_window.get(), "updateStorageStatus", Q_ARG(StorageStatus, StorageStatus())));
     QVERIFY(page<CAdvanceMenu>()->isVisible());

@@ -31,6 +31,8 @@ private slots:
     void fakeDesktopGoesWithItsPage();
     void touchStartsTheBacklightTime(); // before a time has been taken over
     void changedBacklightTimeIsTakenOver();
+    void backlightTimeBeyondATimer_data();
+    void backlightTimeBeyondATimer();
 
 private:
     int running(int interval) const
@@ -200,6 +202,30 @@ void TestStatus::changedBacklightTimeIsTakenOver()
     setSetting(CSystemSettings::ACBacklightEnabled, false);
     m_window->checkSystemSettings();
     QCOMPARE(running(77000), 0);
+}
+
+void TestStatus::backlightTimeBeyondATimer_data()
+{
+    QTest::addColumn<QVariant>("seconds");
+    QTest::addColumn<int>("interval");
+    QTest::newRow("longest") << QVariant(2147483) << 2147483000;
+    QTest::newRow("one more") << QVariant(2147484) << 2147483000;
+    QTest::newRow("more than an int") << QVariant(QStringLiteral("9999999999")) << 2147483000;
+    QTest::newRow("negative") << QVariant(-5) << 0;
+}
+
+void TestStatus::backlightTimeBeyondATimer()
+{
+    QFETCH(QVariant, seconds);
+    QFETCH(int, interval);
+    const int before = running(interval);
+    setSetting(CSystemSettings::ACBacklightEnabled, true);
+    setSetting(CSystemSettings::ACBacklightTime, seconds);
+    setSetting(CSystemSettings::ACBacklightChanged, true);
+    m_window->checkSystemSettings();
+    QCOMPARE(running(interval), before + 1);
+    setSetting(CSystemSettings::ACBacklightEnabled, false);
+    m_window->checkSystemSettings();
 }
 
 QTEST_MAIN(TestStatus)

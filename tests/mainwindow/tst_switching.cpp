@@ -23,7 +23,11 @@ private slots:
     void initTestCase() { open(); }
     void init() { reset(); }
 
+    void lastRequestOfATurnWins_data();
+    void lastRequestOfATurnWins();
+    void requestsWaitForAPluginsOwnEventLoop();
     void calibrationNeedsConsent();
+    void refusedCalibrationKeepsThePageThatIsClosed();
     void calibrationGivesTheInputBack();
     void pluginLifeCycle();
     void failedStartIsReported();
@@ -31,11 +35,86 @@ private slots:
     void comingBackDuringTheWaitStartsOnce();
     void browserLocksInputForAWhile();
     void testApplicationInFront();
+    void maskFollowsTheWindowsSize();
     void switchOverlay();
+    void newPageEndsTheSwitchOverlay();
     void dialogStepsAsideForATestApplication();
     void errorBehindATestApplicationWaits();
     void missingLibraryShowsTheLoadersText();
 };
+
+void TestSwitching::lastRequestOfATurnWins_data()
+{
+    QTest::addColumn<QVector<int>>("requests"); // utilities, and -1 for the plug-in's wish to close
+    QTest::addColumn<int>("current");
+    QTest::addColumn<bool>("hasButtons");
+    QTest::newRow("page, then home") << QVector<int>{UTILITY_ID_SETTINGS, -1} << int(UTILITY_ID_BEGIN)
+                                     << false;
+    QTest::newRow("home, then page") << QVector<int>{-1, UTILITY_ID_SETTINGS} << int(UTILITY_ID_SETTINGS)
+                                     << true;
+    QTest::newRow("two pages") << QVector<int>{UTILITY_ID_ADVTOOL, UTILITY_ID_SETTINGS}
+                               << int(UTILITY_ID_SETTINGS) << true;
+    QTest::newRow("two plug-ins") << QVector<int>{UTILITY_ID_RESULT_MANAGER, UTILITY_ID_NET_WIZARD}
+                                  << int(UTILITY_ID_NET_WIZARD) << true;
+}
+
+void TestSwitching::lastRequestOfATurnWins()
+{
+    QFETCH(QVector<int>, requests);
+    QFETCH(int, current);
+    for (const char* name : {"libnetwiz.so", "libresultman.so"})
+        installFixture("libfixture_recorder.so", QLatin1String(name));
+    m_window->changeCurrentUtil(UTILITY_ID_NET_WIZARD);
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    clearPluginCalls();
+    const QPointer<QWidget> pluginPage = m_window->findChild<QWidget*>(QStringLiteral("fixturePage"));
+    QVERIFY(pluginPage);
+    for (const int id : requests) {
+        if (id < 0)
+            QVERIFY(QMetaObject::invokeMethod(pluginPage, "askToClose"));
+        else
+            QVERIFY(QMetaObject::invokeMethod(pluginPage, "askToLaunch", Q_ARG(int, id)));
+    }
+    QTRY_VERIFY(!pluginPage);
+    QTRY_COMPARE(int(m_window->currentUtil()), current);
+    if (current == UTILITY_ID_NET_WIZARD)
+        QTRY_COMPARE(pluginCalls().count(QStringLiteral("start")), 1);
+    QTEST(homeShown(), "hasButtons");
+    QTEST(closeShown(), "hasButtons");
+    QCOMPARE(page<CHomePage>()->isVisible(), current == UTILITY_ID_BEGIN);
+    QCOMPARE(page<CSystemSettingsMenu>()->isVisible(), current == UTILITY_ID_SETTINGS);
+    QVERIFY(page<CAdvanceMenu>()->isHidden());
+    QVERIFY(page<CStartUtilWindow>()->isHidden());
+}
+
+void TestSwitching::requestsWaitForAPluginsOwnEventLoop()
+{
+    const QString loops = QStringLiteral("/tmp/fixture-loops");
+    installFixture("libfixture_recorder.so", QStringLiteral("libnetwiz.so"));
+    choose(UTILITY_ID_NET_WIZARD);
+    clearPluginCalls();
+    writeFile(loops);
+    // All that may come in the middle of start(): the user, another process, the switching service twice.
+    const auto later = [this](auto work) { QMetaObject::invokeMethod(this, work, Qt::QueuedConnection); };
+    later([this, later] {
+        later([this] { m_window->changeCurrentUtil(UTILITY_ID_ADVTOOL); });
+        later([this] { m_window->triggerHome(); });
+        later([this] { emit m_window->windowVisibleChanged(false); });
+        later([this] { emit m_window->windowVisibleChanged(true); });
+        later([this] { m_window->changeLanguage(LANGUAGE_GERMAN); });
+        QMetaObject::invokeMethod(m_window.get(), "utilReady", Q_ARG(int, UTILITY_ID_NET_WIZARD));
+    });
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("stop")));
+    QVERIFY(QFile::remove(loops));
+    QCOMPARE(pluginCalls().mid(pluginCalls().indexOf(QStringLiteral("start"))),
+        QStringList({QStringLiteral("start"), QStringLiteral("hide"), QStringLiteral("show"),
+            QStringLiteral("update"), QStringLiteral("stop")}));
+    QVERIFY(page<CHomePage>()->isVisible());
+    QVERIFY(page<CAdvanceMenu>()->isHidden());
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_BEGIN);
+    QVERIFY(!homeShown());
+    m_window->changeLanguage(LANGUAGE_ENGLISH);
+}
 
 void TestSwitching::calibrationNeedsConsent()
 {
@@ -49,6 +128,26 @@ void TestSwitching::calibrationNeedsConsent()
     QVERIFY(!closeShown());
 }
 
+void TestSwitching::refusedCalibrationKeepsThePageThatIsClosed()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libsettingscreen.so"));
+    choose(UTILITY_ID_SETTINGS);
+    CBoxAnswer consent("ok");
+    m_window->changeCurrentUtil(UTILITY_ID_SCREEN);
+    m_window->changeCurrentUtil(UTILITY_ID_ADVTOOL);
+    CBoxAnswer refusal("cancel");
+    m_window->triggerClose();
+    QVERIFY(refusal.isAnswered());
+    QVERIFY(page<CAdvanceMenu>()->isVisible());
+    QCOMPARE(m_window->currentUtil(), UTILITY_ID_ADVTOOL);
+    QVERIFY(closeShown());
+    CBoxAnswer again("ok");
+    m_window->triggerClose();
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    QVERIFY(page<CAdvanceMenu>()->isHidden());
+    QFile::remove(PLUGIN_DIR + QStringLiteral("libsettingscreen.so"));
+}
+
 void TestSwitching::calibrationGivesTheInputBack()
 {
     const QString library = QStringLiteral("libsettingscreen.so");
@@ -57,6 +156,12 @@ void TestSwitching::calibrationGivesTheInputBack()
     m_window->changeCurrentUtil(UTILITY_ID_SCREEN);
     QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
     QTRY_COMPARE(region(), WHOLE_SCREEN);
+    // A test application in front has its touches, and the calibration gets them back.
+    m_window->setWindowVisible(false);
+    QCOMPARE(region(), TEST_APP_AREA);
+    QVERIFY(CXScreen().isTouchDelivered({400, 200}));
+    m_window->setWindowVisible(true);
+    QCOMPARE(region(), WHOLE_SCREEN);
     // A reported failure can be answered meanwhile.
     writeFile(FAILURE_MARK);
     CWithDialog failure([this](CDialog* dialog) {
@@ -90,6 +195,7 @@ void TestSwitching::pluginLifeCycle()
     choose(UTILITY_ID_NET_WIZARD);
     QVERIFY(page<CAdvanceMenu>()->isHidden());
     QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    QVERIFY(page<CStartUtilWindow>()->isHidden()); // nothing of it shines through the page
     const QStringList started = pluginCalls();
     QVERIFY(started.indexOf(QStringLiteral("setCallerID 65540")) >= 0);
     QVERIFY(started.indexOf(QStringLiteral("setCallerID 65540")) < started.indexOf(QStringLiteral("start")));
@@ -213,6 +319,31 @@ void TestSwitching::errorBehindATestApplicationWaits()
     });
     QTRY_VERIFY(box.isDone());
     QVERIFY(isAside);
+}
+
+void TestSwitching::maskFollowsTheWindowsSize()
+{
+    m_window->setWindowVisible(false);
+    m_window->resize(400, 300); // a window manager may
+    m_window->setWindowVisible(true);
+    m_window->resize(800, 460);
+    QVERIFY(QRegion(m_window->rect()).subtracted(m_window->mask()).isEmpty());
+    m_window->setWindowVisible(false);
+    m_window->resize(800, 480);
+    QVERIFY(m_window->mask().contains(QPoint(400, 475)));
+    m_window->setWindowVisible(true);
+    m_window->resize(800, 460);
+}
+
+void TestSwitching::newPageEndsTheSwitchOverlay()
+{
+    auto* overlay = page<CSwitchAppWindow>();
+    overlay->start(QStringLiteral("Loading"));
+    m_window->triggerHome();
+    QVERIFY(overlay->isHidden());
+    overlay->start(QStringLiteral("Loading"));
+    m_window->changeCurrentUtil(UTILITY_ID_SETTINGS);
+    QVERIFY(overlay->isHidden());
 }
 
 void TestSwitching::switchOverlay()

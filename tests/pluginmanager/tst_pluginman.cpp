@@ -8,7 +8,10 @@
 #include <QTest>
 #include <QWidget>
 
+#include <functional>
 #include <unistd.h>
+
+Q_DECLARE_METATYPE(std::function<bool(CPluginManager&)>)
 
 namespace {
 
@@ -40,6 +43,8 @@ private slots:
     void unreadableFile();
     void terminateReachesBothBackgroundPlugins();
     void manyLoadsKeepTheDescriptors();
+    void whatAPluginThrowsEndsHere_data();
+    void whatAPluginThrowsEndsHere();
 };
 
 void TestPluginManager::init()
@@ -211,6 +216,51 @@ void TestPluginManager::manyLoadsKeepTheDescriptors()
         QVERIFY(!manager.loadPlugin(UTILITY_ID_VFL));
     }
     QCOMPARE(descriptors(), before);
+}
+
+void TestPluginManager::whatAPluginThrowsEndsHere_data()
+{
+    using Drive = std::function<bool(CPluginManager&)>;
+    QTest::addColumn<QByteArray>("call");
+    QTest::addColumn<Drive>("drive"); // false: the call counts as failed
+    const auto row
+        = [](const char* call, const Drive& drive) { QTest::newRow(call) << QByteArray(call) << drive; };
+    // First: a root object that could be made serves all rows after it.
+    row("constructor", [](CPluginManager& m) { return m.getPluginInstance(UTILITY_ID_WIFI_SA) != nullptr; });
+    row("setCallerID", [](CPluginManager& m) { return m.startPlugin(nullptr, UTILITY_ID_BEGIN); });
+    row("start", [](CPluginManager& m) { return m.startPlugin(nullptr, UTILITY_ID_BEGIN); });
+    row("bkgRun", [](CPluginManager& m) { return m.runPluginInBackground(nullptr); });
+    row("getObject", [](CPluginManager& m) { return m.getPluginObject() != nullptr; });
+    row("stop", [](CPluginManager& m) { return m.unloadPlugin(); });
+    row("update", [](CPluginManager& m) { return m.updatePluginWindow(), false; });
+    row("show", [](CPluginManager& m) { return m.setPluginWindowVisible(true), false; });
+    row("hide", [](CPluginManager& m) { return m.setPluginWindowVisible(false), false; });
+}
+
+void TestPluginManager::whatAPluginThrowsEndsHere()
+{
+    QFETCH(QByteArray, call);
+    QFETCH(std::function<bool(CPluginManager&)>, drive);
+    const QString plan = QStringLiteral("/tmp/fixture-trouble");
+    QFile::remove(plan);
+    installFixture("libfixture_trouble.so", QStringLiteral("libwsa.so"));
+    CPluginManager manager;
+    if (call != "constructor")
+        QVERIFY(manager.loadPlugin(UTILITY_ID_WIFI_SA));
+    for (const char* deed : {" throw", " throw-number"}) {
+        QFile file(plan);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(call + deed);
+        file.close();
+        QTest::ignoreMessage(QtCriticalMsg,
+            QRegularExpression(QStringLiteral("^Exception out of plug-in libwsa.so(: trouble in %1)?$")
+                                   .arg(QString::fromLatin1(call))));
+        QVERIFY(!drive(manager));
+        QVERIFY(!CPluginManager::callInProgress());
+    }
+    QVERIFY(QFile::remove(plan));
+    QVERIFY(manager.loadPlugin(UTILITY_ID_WIFI_SA)); // and it goes on
+    QVERIFY(manager.startPlugin(nullptr, UTILITY_ID_BEGIN));
 }
 
 QTEST_MAIN(TestPluginManager)

@@ -8,7 +8,9 @@
 #include <QProcess>
 #include <QtTest>
 #include <atomic>
+#include <csignal>
 #include <memory>
+#include <pthread.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <thread>
@@ -65,6 +67,7 @@ private slots:
     void lateAnswerIsDropped();
     void endsWhileTheBusIsSilent();
     void callersOnManyThreads();
+    void noRoomForAThread();
     void processExists();
 };
 
@@ -242,6 +245,25 @@ void TestServices::callersOnManyThreads()
     for (std::thread& caller : callers)
         caller.join();
     QCOMPARE(answers.load(), 200);
+}
+
+void TestServices::noRoomForAThread()
+{
+    CBusLink link(Bus);
+    pthread_attr_t before;
+    pthread_attr_t hugeStack; // more than there are addresses: no thread can be made
+    QCOMPARE(pthread_getattr_default_np(&before), 0);
+    QCOMPARE(pthread_getattr_default_np(&hugeStack), 0);
+    QCOMPARE(pthread_attr_setstacksize(&hugeStack, size_t(1) << 60), 0);
+    QCOMPARE(pthread_setattr_default_np(&hugeStack), 0);
+    const bool isAnswered = ask(link);
+    QCOMPARE(pthread_setattr_default_np(&before), 0);
+    QVERIFY(!isAnswered);
+    QCOMPARE(s_waits.load(), 0);
+    sigset_t blocked;
+    QCOMPARE(pthread_sigmask(SIG_SETMASK, nullptr, &blocked), 0);
+    QCOMPARE(sigismember(&blocked, SIGTERM), 0); // held back for the thread only
+    QVERIFY(ask(link)); // as soon as there is room
 }
 
 void TestServices::processExists()

@@ -73,11 +73,30 @@ ShellWindow CXScreen::findShellWindow() const
     return {};
 }
 
+bool CXScreen::grab(Grab what) const
+{
+    const Window root = DefaultRootWindow(m_display);
+    if (what == GrabPointer)
+        return XGrabPointer(m_display, root, False, ButtonPressMask, GrabModeAsync, GrabModeAsync, None, None,
+                   CurrentTime)
+            == GrabSuccess;
+    XGrabButton(m_display, Button1, AnyModifier, root, False, ButtonPressMask, GrabModeAsync, GrabModeAsync,
+        None, None);
+    XSync(m_display, False);
+    return true;
+}
+
 void CXScreen::touch(const QPoint& at) const
 {
     XTestFakeMotionEvent(m_display, -1, at.x(), at.y(), CurrentTime);
     XTestFakeButtonEvent(m_display, 1, True, CurrentTime);
     XTestFakeButtonEvent(m_display, 1, False, CurrentTime);
+    XSync(m_display, False);
+}
+
+void CXScreen::setKeyDown(unsigned long keysym, bool down) const
+{
+    XTestFakeKeyEvent(m_display, XKeysymToKeycode(m_display, keysym), down, CurrentTime);
     XSync(m_display, False);
 }
 

@@ -32,8 +32,15 @@ public:
     /** The application index property of a window; -1 when it is not one 32-bit integer. */
     int appIndexOf(unsigned long window) const;
 
+    enum Grab { GrabButton, GrabPointer };
+    /** Holds one button on the root window, or the whole pointer, for as long as the connection lasts. */
+    bool grab(Grab what) const;
+
     /** Touches a point of the screen, as the touch screen's driver does: pressed and released. */
     void touch(const QPoint& at) const;
+
+    /** A key of the keyboard goes down, and up. While it is down the X server repeats it. */
+    void setKeyDown(unsigned long keysym, bool down) const;
 
     /** Whether a touch there comes to a window of this connection, as it would to another program's; false
      * after 2 s. */
@@ -41,4 +48,23 @@ public:
 
 private:
     _XDisplay* m_display;
+};
+
+/** A real key that is held for as long as this lives. */
+class CHeldKey
+{
+public:
+    CHeldKey(const CXScreen& screen, unsigned long keysym)
+        : m_screen(screen)
+        , m_keysym(keysym)
+    {
+        m_screen.setKeyDown(m_keysym, true);
+    }
+    ~CHeldKey() { m_screen.setKeyDown(m_keysym, false); }
+    CHeldKey(const CHeldKey&) = delete;
+    CHeldKey& operator=(const CHeldKey&) = delete;
+
+private:
+    const CXScreen& m_screen;
+    unsigned long m_keysym;
 };

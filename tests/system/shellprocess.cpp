@@ -13,8 +13,9 @@ const QColor TOP_BAR(181, 199, 239);
 
 } // namespace
 
-CShellProcess::CShellProcess(const QStringList& environment)
+CShellProcess::CShellProcess(const QStringList& environment, const Preparation& preparation)
 {
+    m_process.m_preparation = preparation;
     QProcessEnvironment all = QProcessEnvironment::systemEnvironment();
     for (const QString& entry : environment)
         all.insert(entry.section(QLatin1Char('='), 0, 0), entry.section(QLatin1Char('='), 1));
@@ -53,12 +54,16 @@ bool CShellProcess::waitForLog(const QString& text)
 bool CShellProcess::waitForHome()
 {
     // What an earlier program left on the screen does not count.
-    if (!waitForLog(QStringLiteral("### XGetWindowProperty")))
-        return false;
+    return waitForLog(QStringLiteral("### XGetWindowProperty")) && waitForHomeUnlogged();
+}
+
+bool CShellProcess::waitForHomeUnlogged()
+{
     const CXScreen screen;
     return QTest::qWaitFor(
         [&] {
-            return screen.pixel({560, 2}) == TOP_BAR && screen.pixel({400, 60}) == QColor(Qt::white);
+            return screen.findShellWindow().id && screen.pixel({560, 2}) == TOP_BAR
+                && screen.pixel({400, 60}) == QColor(Qt::white);
         },
         START_LIMIT);
 }

@@ -4,6 +4,7 @@
 #include "sigtransfer.h"
 #include "topbar.h"
 #include "widgets/statusicon/statusicon.h"
+#include "widgets/widgetstyle/stylepainter.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QApplication>
@@ -91,6 +92,7 @@ private slots:
     void showsOnlyHomeAndClose();
     void wifiButton_data();
     void wifiButton();
+    void markerStandsOut();
     void unchangedWifiRecordCostsNoRepaint();
     void followsTheRelay();
     void leavesOutFirstSteps();
@@ -195,6 +197,29 @@ void TestTopBar::wifiButton()
     QCOMPARE(rendered(icon), slice(strip, 120, row));
     icon->setDown(true);
     QCOMPARE(rendered(icon), slice(strip, 60, row));
+}
+
+void TestTopBar::markerStandsOut()
+{
+    CTopBar bar;
+    auto* icon = bar.findChild<CStatusIcon*>(QStringLiteral("homeButton"));
+    icon->show();
+    const QImage plain = bar.grab().toImage();
+    icon->setArrowKeyFocus(true);
+    const QImage marked = bar.grab().toImage();
+    // Along a line from the bar into the button: the bar, the marker's dark line, its accent.
+    const QPoint from = icon->mapTo(&bar, QPoint(0, icon->height() / 2));
+    QColor last = plain.pixelColor(from);
+    QVector<double> steps;
+    for (int x = 1; x < icon->width() / 4; ++x) {
+        const QColor color = marked.pixelColor(from + QPoint(x, 0));
+        if (color != last)
+            steps << CStylePainter::contrast(color, last);
+        last = color;
+    }
+    QVERIFY(steps.size() >= 3);
+    for (int step = 0; step < 3; ++step)
+        QVERIFY2(steps[step] >= 4.5, qPrintable(QString::number(steps[step])));
 }
 
 void TestTopBar::unchangedWifiRecordCostsNoRepaint()

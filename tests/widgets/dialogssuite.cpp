@@ -1,16 +1,23 @@
 #include "suites.h"
 
+#include "busymachine.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/pushbutton/pushbutton.h"
 #include "widgets/widget/widget.h"
 #include "widgets/widgetstack/kpwidgetstack.h"
+#include "xscreen.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QSignalSpy>
 #include <QTimer>
 #include <QtTest>
 
+#include <X11/keysym.h>
+
 #include <functional>
+#include <memory>
 
 namespace {
 
@@ -74,15 +81,62 @@ private slots:
 
     void aHeldEnterDoesNotAnswer()
     {
+        const CXScreen screen;
+        const CBusyMachine busy;
+        QWidget opener;
+        opener.show();
+        opener.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&opener));
+        auto held = std::make_unique<CHeldKey>(screen, XK_Return);
+        QTRY_VERIFY(busy.unflaggedRepetitions() > 0);
+
         CMessageBox box(QStringLiteral("Warning"), QStringLiteral("Go on?"), CMessageBox::Ok);
+        QSignalSpy answered(button(box, "ok"), &QAbstractButton::pressed);
         box.show();
         QTest::keyClick(&box, Qt::Key_Down);
         QCOMPARE(box.markedButton(), button(box, "ok"));
-        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
-        QCoreApplication::sendEvent(&box, &repeated);
-        QVERIFY(!button(box, "ok")->isDown());
-        box.hide();
+        box.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        const int before = busy.unflaggedRepetitions();
+        QTRY_VERIFY(busy.unflaggedRepetitions() > before + 3);
+        QVERIFY(answered.isEmpty());
+        held.reset();
+        QElapsedTimer sinceUp;
+        sinceUp.start();
+        QTRY_VERIFY(sinceUp.elapsed() > 20); // no finger is faster
+        held = std::make_unique<CHeldKey>(screen, XK_Return); // a press of its own
+        QTRY_COMPARE(answered.size(), 1);
+        QTRY_VERIFY(!box.isVisible());
         QVERIFY(!box.markedButton()); // the next time starts unmarked
+    }
+
+    void whatIsAPress_data()
+    {
+        QTest::addColumn<int>("released"); // the key
+        QTest::addColumn<int>("at"); // ms
+        QTest::addColumn<int>("pressed"); // Enter, ms
+        QTest::addColumn<bool>("answers");
+        QTest::newRow("later") << int(Qt::Key_Return) << 1000 << 1001 << true;
+        QTest::newRow("another key in the same millisecond") << int(Qt::Key_F4) << 1000 << 1000 << true;
+        QTest::newRow("no time stamps") << int(Qt::Key_Return) << 0 << 0 << true;
+        QTest::newRow("repetition") << int(Qt::Key_Return) << 1000 << 1000 << false;
+    }
+
+    void whatIsAPress()
+    {
+        QFETCH(int, released);
+        QFETCH(int, at);
+        QFETCH(int, pressed);
+        CMessageBox box(QStringLiteral("Warning"), QStringLiteral("Go on?"), CMessageBox::Ok);
+        box.show();
+        QTest::keyClick(&box, Qt::Key_Down);
+        QKeyEvent release(QEvent::KeyRelease, released, Qt::NoModifier);
+        release.setTimestamp(ulong(at));
+        QCoreApplication::sendEvent(&box, &release);
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+        press.setTimestamp(ulong(pressed));
+        QCoreApplication::sendEvent(&box, &press);
+        QTEST(button(box, "ok")->isDown(), "answers");
     }
 
     void pagesLieOverEachOther()

@@ -1,5 +1,6 @@
 #include "suites.h"
 
+#include "busymachine.h"
 #include "widgets/keypad/keypaddialog.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/parmcombobox/parmcombobox.h"
@@ -7,12 +8,15 @@
 #include "widgets/parmlineedit/parmlineedit.h"
 #include "widgets/widget/widget.h"
 #include "widgets/widgetstyle/widgetstyle.h"
+#include "xscreen.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QtTest>
+
+#include <X11/keysym.h>
 
 #include <climits>
 #include <functional>
@@ -181,6 +185,23 @@ private slots:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4); // is not the list's
             QCOMPARE(window.keys, QList<int>{Qt::Key_F4});
         }
+    }
+
+    void aHeldEnterOpensAndDoesNotChoose()
+    {
+        CWindow window;
+        CParmComboBox box(QStringLiteral("Profile"), numbered(20), QStringLiteral("Item 2"), &window);
+        box.show();
+        box.setArrowKeyFocus(true); // the list comes up with its marker
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const CXScreen screen;
+        const CBusyMachine busy;
+        const CHeldKey held(screen, XK_Return);
+        QTRY_VERIFY(window.keys.contains(Qt::Key_Return));
+        box.click();
+        QTRY_VERIFY(busy.unflaggedRepetitions() > 3);
+        QVERIFY(window.list());
+        QCOMPARE(window.list()->markedRow(), 2);
     }
 
     void touchesChooseScrollAndClose()

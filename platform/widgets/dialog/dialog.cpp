@@ -1,5 +1,6 @@
 #include "widgets/dialog/dialog.h"
 
+#include "widgets/keywatch/keywatch.h"
 #include "widgets/pushbutton/pushbutton.h"
 #include "widgets/touchregion/touchregion.h"
 #include "widgets/widget/treecall.h"
@@ -66,6 +67,8 @@ CDialog::CDialog(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
 {
     installTouchRegion();
+    installKeyWatch();
+    installEventFilter(qApp); // the application may hear what a dialog keeps for itself
     setModal(true);
     m_frame.setBackgroundColor(CWidgetStyle::ColorDialog);
 }
@@ -177,7 +180,7 @@ void CDialog::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         // A held key that opened the box must not answer it as well.
-        if (!event->isAutoRepeat())
+        if (!isKeyRepetition(*event))
             pressMarked();
         break;
     default:
@@ -206,6 +209,7 @@ void CDialog::setAside(bool aside)
         windowHandle()->removeEventFilter(this);
         clearMask();
     }
+    emit asideChanged();
 }
 
 bool CDialog::eventFilter(QObject* watched, QEvent* event)

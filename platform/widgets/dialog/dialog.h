@@ -65,6 +65,8 @@ signals:
     /** The dialog has come up, and has gone. */
     void popOn();
     void popOff();
+    /** It was set aside, or taken back. */
+    void asideChanged();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

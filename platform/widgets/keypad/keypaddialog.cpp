@@ -2,6 +2,7 @@
 
 #include "widgets/checkbox/checkbox.h"
 #include "widgets/keypad/keypadlayout.h"
+#include "widgets/keywatch/keywatch.h"
 #include "widgets/label/label.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/touchregion/touchregion.h"
@@ -90,6 +91,11 @@ CKeyPadDialog::CKeyPadDialog(
     m_pText->setContextMenuPolicy(Qt::NoContextMenu);
     m_pText->installEventFilter(this);
     connect(m_pText, &QLineEdit::textChanged, this, &CKeyPadDialog::showCount);
+    if (parentWidget())
+        parentWidget()->installEventFilter(this);
+    // The text stands for the field that is edited: on a page, the application hears its keys.
+    if (!parentWidget() || !qobject_cast<QDialog*>(parentWidget()->window()))
+        m_pText->installEventFilter(qApp);
 
     makeKeys();
     m_pText->setText(text); // before the limits: what this pad cannot type can still be read and deleted
@@ -143,6 +149,8 @@ QString CKeyPadDialog::text() const
 
 bool CKeyPadDialog::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == parentWidget() && event->type() == QEvent::Hide && !isAside())
+        reject(); // the page was left: by a key, or by whoever else shows another
     if (watched == m_pText && event->type() == QEvent::FocusIn) {
         auto* focus = static_cast<QFocusEvent*>(event);
         // A dialog comes up with "tab" focus, which selects all: the first key would replace the text.
@@ -218,7 +226,7 @@ void CKeyPadDialog::showEvent(QShowEvent* event)
 void CKeyPadDialog::keyPressEvent(QKeyEvent* event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && !event->isAutoRepeat() && !markedButton()) {
+    if (isEnter && !isKeyRepetition(*event) && !markedButton()) {
         if (!isTouchDropped(m_pOk))
             m_pOk->animateClick();
         event->accept();

@@ -17,7 +17,8 @@ class QLineEdit;
  * pad for numbers is narrower.
  *
  * A hardware keyboard types into the same text. Arrow keys move the focus marker over the keys, Enter presses
- * the marked one, or OK while none is marked. Only OK and Cancel end it.
+ * the marked one, or OK while none is marked. OK and Cancel end it, and so does hiding its parent, which
+ * cancels it: a pad does not outlive the page whose field it edits.
  *
  * Object names: "text" the text, "ok", "cancel", "clear", "showPassword", "backspace", "left", "right",
  * "shift", "page", and "key" followed by its character for a key that types.

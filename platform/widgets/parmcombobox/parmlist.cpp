@@ -1,5 +1,6 @@
 #include "widgets/parmcombobox/parmlist.h"
 
+#include "widgets/keywatch/keywatch.h"
 #include "widgets/touchregion/touchregion.h"
 #include "widgets/widgetstyle/stylepainter.h"
 #include "widgets/widgetstyle/widgetstyle.h"
@@ -152,7 +153,7 @@ void CParmList::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         // A held key that opened the list must not choose from it as well.
-        if (!event->isAutoRepeat() && m_marked >= 0 && !isTouchDropped(this))
+        if (!isKeyRepetition(*event) && m_marked >= 0 && !isTouchDropped(this))
             choose(m_marked);
         break;
     case Qt::Key_Escape:

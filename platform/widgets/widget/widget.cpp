@@ -1,5 +1,6 @@
 #include "widgets/widget/widget.h"
 
+#include "widgets/keywatch/keywatch.h"
 #include "widgets/touchregion/touchregion.h"
 #include "widgets/widget/treecall.h"
 #include "widgets/widgetstyle/stylepainter.h"
@@ -10,6 +11,7 @@ CWidget::CWidget(QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
 {
     installTouchRegion();
+    installKeyWatch();
 }
 
 void CWidget::setBackgroundColor(const QColor& color)

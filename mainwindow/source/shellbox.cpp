@@ -1,0 +1,69 @@
+#include "shellbox.h"
+
+#include "widgets/messagebox/messagebox.h"
+#include "widgets/widgetstyle/widgetstyle.h"
+#include "windowhost.h"
+
+#include <iterator>
+
+namespace {
+
+constexpr int AsBuilt = -1; // as the library makes it
+
+/** How a box looks: colour codes of the theme, text sizes in pixels. */
+struct BoxLook
+{
+    ShellBox box;
+    CMessageBox::Buttons::Int buttons;
+    int titleBackground;
+    int titleColor;
+    int titleSize;
+    int messageColor;
+    int messageSize;
+};
+
+constexpr int Red = 7;
+constexpr BoxLook LOOKS[] = {
+    {ShellBox::Calibration, CMessageBox::Ok | CMessageBox::Cancel, Red, 2, 20, 9, AsBuilt},
+    {ShellBox::NoUsbDrive, CMessageBox::Ok, CWidgetStyle::ColorAlert, AsBuilt, 20, 9, AsBuilt},
+    {ShellBox::NotAvailable, CMessageBox::Ok, AsBuilt, AsBuilt, 20, 9, AsBuilt},
+    {ShellBox::PluginError, CMessageBox::Ok, CWidgetStyle::ColorAlert, AsBuilt, AsBuilt, AsBuilt, AsBuilt},
+    {ShellBox::ScreenLimit, CMessageBox::Ok, AsBuilt, AsBuilt, 20, AsBuilt, 16},
+    {ShellBox::SystemFailure, CMessageBox::Ok, Red, AsBuilt, 24, 9, 20},
+};
+
+const BoxLook& lookOf(ShellBox box)
+{
+    return LOOKS[int(box)];
+}
+
+constexpr bool isInOrder()
+{
+    for (int i = 0; i < int(std::size(LOOKS)); ++i) {
+        if (int(LOOKS[i].box) != i)
+            return false;
+    }
+    return true;
+}
+static_assert(isInOrder(), "a row a box, in the order of the enumeration");
+
+} // namespace
+
+bool execShellBox(ShellBox kind, CWindowHost& host, const QString& title, const QString& text)
+{
+    const BoxLook& look = lookOf(kind);
+    CMessageBox box(title, text, CMessageBox::Buttons(look.buttons), host.dialogParent());
+    const auto set = [&box](void (CMessageBox::*setter)(int), int value) {
+        if (value != AsBuilt)
+            (box.*setter)(value);
+    };
+    set(&CMessageBox::setTitleBackgroundColor, look.titleBackground);
+    set(&CMessageBox::setTitleTextColor, look.titleColor);
+    set(&CMessageBox::setTitleTextSize, look.titleSize);
+    set(&CMessageBox::setMessageTextColor, look.messageColor);
+    set(&CMessageBox::setMessageTextSize, look.messageSize);
+    if (kind == ShellBox::PluginError && host.isTestAppInFront())
+        QObject::connect(&box, &CDialog::popOn, &box, [&box] { box.setAside(true); });
+    host.moveToWorkingAreaCenter(&box);
+    return box.exec() == CMessageBox::Ok;
+}
