@@ -62,7 +62,7 @@ def forget_screen(tmp):
             os.unlink(os.path.join(tmp, name))
 
 
-def environment(source, build, runtime, has_screen):
+def environment(source, build, runtime, has_screen, backend):
     """The caller's environment less what would tie the command to the caller's desktop or change how Qt looks."""
     dropped = ("QT_", "XDG_", "DBUS_", "LC_", "WAYLAND_")
     kept = ("QT_LOGGING_RULES", "QT_FATAL_WARNINGS", "QT_MESSAGE_PATTERN")
@@ -72,7 +72,7 @@ def environment(source, build, runtime, has_screen):
         HOME="/home/root", USER="root", LOGNAME="root", LANG="C.UTF-8", XDG_RUNTIME_DIR=runtime,
         QT_QPA_PLATFORM="xcb" if has_screen else "offscreen",
         QT_XCB_GL_INTEGRATION="none",  # the shell sets it for itself; tests of its parts run as it does
-        INSTRUMENT_SOURCE=source, INSTRUMENT_BUILD=build,
+        INSTRUMENT_SOURCE=source, INSTRUMENT_BUILD=build, INSTRUMENT_BACKEND=backend,
         PATH="%s:/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin" % TOOLS)
     result.pop("TMPDIR", None)
     return result
