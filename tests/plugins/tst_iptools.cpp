@@ -176,7 +176,7 @@ void TestIpTools::pingIsLiveAndStops()
     QTRY_VERIFY(running("ping").isEmpty());
     QVERIFY(m_plugin->stop());
     QVERIFY(!m_plugin->bIsStarted);
-    QCOMPARE(descriptors(), before);
+    QTRY_COMPARE(descriptors(), before);
 }
 
 void TestIpTools::traceEndsByItself()
