@@ -4,6 +4,7 @@
 
 #include "devicemonitor.h"
 #include "pluginman.h"
+#include "shellservice.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
@@ -116,6 +117,7 @@ void CMainWindow::postLaunch()
     m_innerPages.runLaunchWork();
     autoLoadPlugins();
     settle(signalFd[1]);
+    new CShellService(this); // the window owns it
     m_pSystemTimer->start();
     selftestPopup();
     m_pFailureServTimer->start();

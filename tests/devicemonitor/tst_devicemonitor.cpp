@@ -9,6 +9,8 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include "backend.h"
+
 namespace {
 
 // A sanitizer makes every fork slow and keeps freed memory for a while.
@@ -395,6 +397,7 @@ void tst_DeviceMonitor::stopEndsTheWait()
 
 void tst_DeviceMonitor::manyCycles()
 {
+    SKIP_UNDER_PROOT("so many processes take minutes");
     constexpr int WarmUp = 200;
     QVERIFY(simctl("wifi link 63"_s));
     const ChildReaper reaper; // after simctl(): it needs the exit status

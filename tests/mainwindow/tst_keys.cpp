@@ -1,4 +1,5 @@
 #include "advancemenu.h"
+#include "backend.h"
 #include "busymachine.h"
 #include "drivenwindow.h"
 #include "mainapplication.h"
@@ -212,6 +213,8 @@ void TestKeys::homeActsOnce()
 {
     QFETCH(int, util);
     QFETCH(QString, keyboard);
+    if (keyboard.startsWith(QLatin1String("key pad")))
+        SKIP_UNDER_PROOT("the focus comes later than the key");
     m_window->changeCurrentUtil(util);
     QTRY_VERIFY(util == UTILITY_ID_ADVTOOL || page<CParmLineEdit>()); // the plug-in's own
     takeKeyboard();
