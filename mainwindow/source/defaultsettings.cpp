@@ -1,5 +1,7 @@
 #include "defaultsettings.h"
 
+#include "compresslevel.h"
+
 const QVector<DefaultSetting>& defaultSettings()
 {
     using S = CSystemSettings;
