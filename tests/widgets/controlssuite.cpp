@@ -139,7 +139,7 @@ private slots:
         CProgressBar bar;
         bar.setBarColor(color);
         bar.setValue(bar.maximum());
-        for (QWidget* control : {&widget, static_cast<QWidget*>(&button), static_cast<QWidget*>(&bar)}) {
+        for (QWidget* control : std::initializer_list<QWidget*>{&widget, &button, &bar}) {
             control->resize(80, 40);
             QCOMPARE(control->grab().toImage().pixelColor(40, 20), painted);
         }
