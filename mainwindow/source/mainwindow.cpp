@@ -138,6 +138,7 @@ void CMainWindow::createTimers()
     m_pAppLaunchTimer->setInterval(APP_LAUNCH_PERIOD);
     m_pSwitchDelayTimer = new QTimer(this);
     m_pSwitchDelayTimer->setSingleShot(true);
+    connect(m_pSwitchDelayTimer, &QTimer::timeout, this, &CMainWindow::procDelayUnlock);
     m_pBatBacklightTimer = new QTimer(this);
     m_pACBacklightTimer = new QTimer(this);
     connect(this, &CMainWindow::windowVisibleChanged, this, &CMainWindow::setWindowVisible);

@@ -115,7 +115,7 @@ void CMainWindow::postLaunch()
     m_pDevMonitor->start(QThread::InheritPriority);
     m_pDevMonitor->wakeupScreen(m_powerStat.bIsBat, 1);
     m_innerPages.runLaunchWork();
-    autoLoadPlugins();
+    m_transitions.perform([this] { autoLoadPlugins(); });
     settle(signalFd[1]);
     new CShellService(this); // the window owns it
     m_pSystemTimer->start();
@@ -129,4 +129,6 @@ void CMainWindow::autoLoadPlugins()
         if (m_pPluginMan->loadPlugin(id))
             m_pPluginMan->runPluginInBackground(this);
     }
+    if (m_pluginState == PluginState::Up) // another process asked for it before; it is the current one again
+        m_pPluginMan->loadPlugin(m_prevUtilID);
 }

@@ -13,6 +13,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QThread>
+#include <QTimer>
 
 namespace {
 
@@ -68,6 +69,9 @@ void CMainWindow::setDialogsAside(bool aside)
 
 void CMainWindow::setVisibleReason(VisibleReason reason)
 {
+    // The window was away as a whole when the browser's time was over, which then changed nothing.
+    if (m_winVisibleReason == OtherReason && !m_pSwitchDelayTimer->isActive())
+        m_pTouches->set(&TouchState::isBrowserStarting, false);
     m_winVisibleReason = reason;
     m_pTouches->set(&TouchState::isTestAppInFront, reason == TestAppForeground);
 }
