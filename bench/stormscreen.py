@@ -7,9 +7,10 @@ import time
 X = ctypes.CDLL("libX11.so.6")
 XTEST = ctypes.CDLL("libXtst.so.6")
 
-# x, y, width, height of what is the same on every home screen, whatever its language: the place of Home and Close,
-# the tool box below its closed headers, the empty working area.
-HOME = ((690, 2, 108, 56), (2, 204, 156, 250), (164, 64, 632, 390))
+# What is the same on the home screen in every language, x, y, width, height: the place of Home and Close has the colour
+# of the top bar; the tool box below its closed headers and the working area are empty.
+BUTTONS, TOP_BAR = (690, 2, 108, 56), bytes((239, 199, 181))  # blue, green, red
+EMPTY = ((2, 204, 156, 250), (164, 64, 632, 390))
 
 CLIENT_MESSAGE, STRUCTURE_NOTIFY, XA_INTEGER, ALL_PLANES, Z_PIXMAP = 33, 1 << 17, 19, ctypes.c_ulong(-1), 2
 Handle = ctypes.c_ulong
@@ -156,10 +157,15 @@ class Screen:
         X.XDestroyImage(image)
         return data, line
 
-    def picture(self, areas):
-        """The pixels of some areas, to be compared."""
+    def is_home(self):
         data, line = self._pixels()
-        return b"".join(data[row * line + x * 4:row * line + (x + w) * 4] for x, y, w, h in areas for row in range(y, y + h))
+
+        def is_plain(area, colour=None):
+            x, y, width, height = area
+            colour = colour or data[y * line + x * 4:y * line + x * 4 + 3]
+            return all(data[at + channel:at + width * 4:4] == colour[channel:channel + 1] * width  # the fourth byte is any
+                       for at in range(y * line + x * 4, (y + height) * line, line) for channel in range(3))
+        return is_plain(BUTTONS, TOP_BAR) and all(map(is_plain, EMPTY))
 
     def save(self, path):
         data, _ = self._pixels()
