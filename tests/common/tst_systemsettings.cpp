@@ -183,34 +183,18 @@ void tst_SystemSettings::sharedFields_data()
     const auto row
         = [](const char* name, S::SystemAttribute attribute, const QVariant& value, int offset,
               const QByteArray& bytes) { QTest::newRow(name) << int(attribute) << value << offset << bytes; };
-    row("battery on", S::BatteryBacklightEnabled, true, 96, number(1));
     row("flag of a number", S::BatteryBacklightEnabled, 7, 96, number(1));
     row("flag of a stored text", S::BatteryBacklightEnabled, "true"_s, 96, number(1));
-    row("battery time", S::BatteryBacklightTime, 30, 100, number(30));
-    row("AC brightness", S::ACBrightness, 63, 116, number(63));
     row("no number", S::ACBrightness, "bright"_s, 116, number(0));
-    row("password", S::PasswordVisible, true, 12, number(1));
-    row("compress high", S::SaveScreenCompressLevel, 65000, 124, number(7));
     row("compress middle", S::SaveScreenCompressLevel, 65001, 124, number(3));
-    row("compress none", S::SaveScreenCompressLevel, 65002, 124, number(0));
-    row("maximum", S::SaveScreenMaxNum, 50, 132, number(50));
-    row("application", S::InitDefAppIndex, 1, 512, number(1));
     row("delete", S::ProDelType, "PROMPT"_s, 80, number(1));
-    row("save result", S::RstSaveType, "Prompt"_s, 88, number(1));
-    row("alarm", S::AudibleAlarm, true, 8, number(1));
-    row("english", S::UintType, "English"_s, 4, number(unit_english));
-    row("usa", S::UserStyle, "USA"_s, 216, number(uistyle_usa));
-    row("prefix", S::FileNamePrefix, "site"_s, 16, "site" + QByteArray(1, '\0'));
     row("prefix fills the field", S::FileNamePrefix, QString(63, QLatin1Char('p')), 16,
         QByteArray(63, 'p') + '\0');
     row("prefix longer than the field", S::FileNamePrefix, QString(5000, QLatin1Char('p')), 16,
         QByteArray(63, 'p') + '\0');
     row("prefix cut in a character", S::FileNamePrefix, QString(62, QLatin1Char('p')) + QChar(0xE4), 16,
         QByteArray(62, 'p') + '\0');
-    row("clock 0", S::ClkSrc0, "gps"_s, 520, number(2));
     row("clock 1", S::ClkSrc1, "Atomic"_s, 524, number(3));
-    row("clock 5", S::ClkSrc5, "gps"_s, 540, number(2));
-    row("management port", S::ManPortBoot, true, 516, number(1));
 }
 
 void tst_SystemSettings::sharedFields()
@@ -267,18 +251,13 @@ void tst_SystemSettings::profile_data()
         = [](const QString& name, const QString& text, S::SystemAttribute attribute, const QVariant& value) {
               QTest::newRow(qPrintable(name + " "_s + text)) << name << text << int(attribute) << value;
           };
-    row("bl_off_battery_time"_s, "60"_s, S::BatteryBacklightTime, 60);
     row("bl_off_AC_time"_s, "60s"_s, S::ACBacklightTime, "60s"_s);
     row("br_level_AC"_s, ""_s, S::ACBrightness, ""_s);
     row("show_password"_s, "On"_s, S::PasswordVisible, true);
-    row("save_screen_compress"_s, "High"_s, S::SaveScreenCompressLevel, 65000);
     row("save_screen_compress"_s, "NoCompress"_s, S::SaveScreenCompressLevel, 65002);
     row("save_screen_compress"_s, "on"_s, S::SaveScreenCompressLevel, 65001);
     row("save_screen_maxnum"_s, "99999999999"_s, S::SaveScreenMaxNum, "99999999999"_s);
-    row("profdel_type"_s, "prompt"_s, S::ProDelType, "prompt"_s);
-    row("unittype"_s, "english"_s, S::UintType, "english"_s);
     row("fname_prefix"_s, "A & B"_s, S::FileNamePrefix, "A & B"_s);
-    row("clock_source_0"_s, "gps"_s, S::ClkSrc0, "gps"_s);
 }
 
 void tst_SystemSettings::profile()

@@ -7,6 +7,7 @@
 
 #include "smalldisk.h"
 #include "startup.h"
+#include "testfiles.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
 namespace {
@@ -18,29 +19,15 @@ const QString STYLE = CONF_DIR + QStringLiteral("/widget-style.xml");
 const QString RESULT = RESULT_DIR + QStringLiteral("/result-config.xml");
 const QString RESULT_TYPE = RESULT_DIR + QStringLiteral("/result-type-config.xml");
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-
 QByteArray defaultOf(const QString& path)
 {
-    return contentOf(QStringLiteral(":/conf/") + QFileInfo(path).fileName());
+    return readFile(QStringLiteral(":/conf/") + QFileInfo(path).fileName());
 }
 
 QString replacedLine(const QString& path, const char* why)
 {
     return QStringLiteral("[%1]: Configuration is %2, replaced by the built-in default")
         .arg(path, QString::fromLatin1(why));
-}
-
-void write(const QString& path, const QByteArray& content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly | QIODevice::Truncate), qPrintable(path));
-    file.write(content);
 }
 
 } // namespace
@@ -81,8 +68,8 @@ void TestConfiguration::everythingIsMadeFromNothing()
 {
     QVERIFY(initConfiguration());
     for (const QString& path : {SETTINGS, STYLE, RESULT, RESULT_TYPE}) {
-        QVERIFY2(!defaultOf(path).isEmpty() && defaultOf(path) != "<unreadable>", qPrintable(path));
-        QCOMPARE(contentOf(path), defaultOf(path));
+        QVERIFY2(!defaultOf(path).isEmpty(), qPrintable(path));
+        QCOMPARE(readFile(path), defaultOf(path));
         const auto permissions = QFile(path).permissions() & QFile::Permissions(0x7077);
         QCOMPARE(int(permissions & (QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner)),
             int(QFile::ReadOwner | QFile::WriteOwner));
@@ -94,9 +81,9 @@ void TestConfiguration::everythingIsMadeFromNothing()
 void TestConfiguration::goodFilesAreLeftAlone()
 {
     const QByteArray mine("<TAVO><language type=\"hu\"/></TAVO>");
-    write(SETTINGS, mine);
+    writeFile(SETTINGS, mine);
     QVERIFY(initConfiguration());
-    QCOMPARE(contentOf(SETTINGS), mine);
+    QCOMPARE(readFile(SETTINGS), mine);
     QVERIFY(!QFile::exists(SETTINGS + QStringLiteral(".rejected")));
 }
 
@@ -113,29 +100,29 @@ void TestConfiguration::badFileIsReplacedAndKept_data()
 void TestConfiguration::badFileIsReplacedAndKept()
 {
     QFETCH(QByteArray, content);
-    write(STYLE, content);
+    writeFile(STYLE, content);
     for (const QString& path : {SETTINGS, RESULT, RESULT_TYPE})
         QTest::ignoreMessage(QtWarningMsg, qPrintable(replacedLine(path, "missing")));
     QTest::ignoreMessage(QtWarningMsg, qPrintable(replacedLine(STYLE, "not readable")));
     QVERIFY(initConfiguration());
-    QCOMPARE(contentOf(STYLE), defaultOf(STYLE));
+    QCOMPARE(readFile(STYLE), defaultOf(STYLE));
     const QString kept = STYLE + QStringLiteral(".rejected");
     QCOMPARE(QFile::exists(kept), !content.isEmpty());
     if (!content.isEmpty())
-        QVERIFY(contentOf(kept) == content);
+        QVERIFY(readFile(kept) == content);
 }
 
 void TestConfiguration::directoryInPlaceOfAFileIsMovedAside()
 {
-    write(SETTINGS + QStringLiteral("/in-the-way"), "x");
+    writeFile(SETTINGS + QStringLiteral("/in-the-way"), "x");
     QVERIFY(initConfiguration());
-    QCOMPARE(contentOf(SETTINGS), defaultOf(SETTINGS));
-    QCOMPARE(contentOf(SETTINGS + QStringLiteral(".rejected/in-the-way")), QByteArray("x"));
+    QCOMPARE(readFile(SETTINGS), defaultOf(SETTINGS));
+    QCOMPARE(readFile(SETTINGS + QStringLiteral(".rejected/in-the-way")), QByteArray("x"));
     // What was moved aside then does not stand in the way of the next one.
-    write(SETTINGS, "broken");
+    writeFile(SETTINGS, "broken");
     QVERIFY(initConfiguration());
-    QCOMPARE(contentOf(SETTINGS), defaultOf(SETTINGS));
-    QCOMPARE(contentOf(SETTINGS + QStringLiteral(".rejected")), QByteArray("broken"));
+    QCOMPARE(readFile(SETTINGS), defaultOf(SETTINGS));
+    QCOMPARE(readFile(SETTINGS + QStringLiteral(".rejected")), QByteArray("broken"));
 }
 
 void TestConfiguration::fileThatFillsTheDisk_data()
@@ -152,11 +139,11 @@ void TestConfiguration::fileThatFillsTheDisk()
     const CSmallDisk disk(CONF_DIR, 256);
     if (!disk.isMounted())
         QSKIP("This instrument can not mount a small disk.");
-    write(STYLE, defaultOf(STYLE));
+    writeFile(STYLE, defaultOf(STYLE));
     disk.fill();
     QVERIFY(QFile::rename(CONF_DIR + QStringLiteral("/filler"), name));
     QVERIFY(initConfiguration());
-    QCOMPARE(contentOf(SETTINGS), defaultOf(SETTINGS));
+    QCOMPARE(readFile(SETTINGS), defaultOf(SETTINGS));
     QVERIFY(!QFile::exists(name) || name == SETTINGS);
     QVERIFY(!QFile::exists(SETTINGS + QStringLiteral(".rejected")));
     QVERIFY(CUICommUtils::saveLanguage(LANGUAGE_GERMAN)); // there is room to go on
@@ -176,7 +163,7 @@ void TestConfiguration::readOnlyDirectoryEndsTheRecovery()
 
 void TestConfiguration::unusableDirectory()
 {
-    write(CONF_DIR, "a file where the directory should be");
+    writeFile(CONF_DIR, "a file where the directory should be");
     QTest::ignoreMessage(QtWarningMsg, "[zentra mainframe]: Can not initialize configuration.");
     QVERIFY(!initConfiguration());
     QVERIFY(!QDir(RESULT_DIR).exists());

@@ -25,7 +25,6 @@ private slots:
     void cleanup() { QCOMPARE(region(), QRect()); }
 
     void failureDismissedComesBack();
-    void pagesFollowWhileOpen();
     void storagePageOverTestApplication();
     void testApplicationGoesWhileItsPageIsOpen();
     void fakeDesktopGoesWithItsPage();
@@ -63,45 +62,6 @@ void TestStatus::failureDismissedComesBack()
     QVERIFY(answered.text().startsWith(QStringLiteral("Error Code: ")));
     QVERIFY(answered.text().endsWith(QStringLiteral("Please contact customer service!")));
     QVERIFY(!QFile::exists(FAILURE_MARK));
-}
-
-void TestStatus::pagesFollowWhileOpen()
-{
-    const auto textOf = [](CDialog* page, const char* name) {
-        const auto* label = page->findChild<CLabel*>(QLatin1String(name));
-        return label ? label->text() : QString();
-    };
-    const auto followed = [this](const char* slot, QGenericArgument status,
-                              const std::function<QStringList(CDialog*)>& texts) {
-        QStringList before;
-        QStringList after;
-        CWithDialog page([&](CDialog* dialog) {
-            before = texts(dialog);
-            QMetaObject::invokeMethod(m_window.get(), slot, status);
-            QTRY_VERIFY((after = texts(dialog)) != before); // the figures are measured aside
-            dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
-        });
-        if (qstrcmp(slot, "updatePowerStatus") == 0)
-            emit g_pSigTransfer->queryPowerInfo();
-        else
-            emit g_pSigTransfer->queryStorageInfo();
-        return page.isDone() && before != after;
-    };
-    PowerStatus battery;
-    battery.bIsBat = true;
-    battery.fullCap = 100;
-    battery.remainCap = 37;
-    QVERIFY(followed("updatePowerStatus", Q_ARG(PowerStatus, battery), [&](CDialog* page) {
-        return QStringList{textOf(page, "state"), textOf(page, "capacity"), textOf(page, "time")};
-    }));
-    StorageStatus mounted;
-    mounted.bIsUSBDisk = mounted.bIsPlugged = mounted.bIsMounted = mounted.bIsUSBDPlugged = true;
-    mounted.USBDUsed = mounted.USBDAvail = 1000;
-    QVERIFY(followed("updateStorageStatus", Q_ARG(StorageStatus, mounted),
-        [&](CDialog* page) { return QStringList{textOf(page, "usbd")}; }));
-    // Back on mains, for the tests that follow.
-    QVERIFY(
-        QMetaObject::invokeMethod(m_window.get(), "updatePowerStatus", Q_ARG(PowerStatus, PowerStatus())));
 }
 
 void TestStatus::storagePageOverTestApplication()

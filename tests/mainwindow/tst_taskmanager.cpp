@@ -1,4 +1,5 @@
 #include "taskmanager.h"
+#include "testfiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,13 +13,6 @@ namespace {
 
 const QString MARK_DIR = QStringLiteral("/tmp/var/lib/vnc");
 const QString MARK_FILE = MARK_DIR + QStringLiteral("/srv-sessions");
-
-void writeMark(const QByteArray& content)
-{
-    QFile file(MARK_FILE);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(content);
-}
 
 } // namespace
 
@@ -105,7 +99,7 @@ void TestTaskManager::sessionCount()
 {
     QFETCH(QByteArray, content);
     QFETCH(int, count);
-    writeMark(content);
+    writeFile(MARK_FILE, content);
     CTaskManager manager(nullptr);
     QCOMPARE(manager.isVNCClientAttached(), count >= 1);
     QCOMPARE(manager.vncSessionCount(), count);
@@ -128,7 +122,7 @@ void TestTaskManager::directoryChangeReportsTheCount()
 void TestTaskManager::pipeInPlaceOfTheMark()
 {
     CTaskManager manager(nullptr);
-    writeMark("2\n");
+    writeFile(MARK_FILE, "2\n");
     QVERIFY(manager.isVNCClientAttached());
     QVERIFY(QFile::remove(MARK_FILE));
     QCOMPARE(::mkfifo(qPrintable(MARK_FILE), 0600), 0);
@@ -153,7 +147,7 @@ void TestTaskManager::directoryThatComesAgain()
 {
     QFETCH(QString, gone);
     QFETCH(bool, isMoved);
-    writeMark("3\n");
+    writeFile(MARK_FILE, "3\n");
     CTaskManager manager(nullptr);
     QVERIFY(manager.isVNCClientAttached());
     QSignalSpy changed(&manager, &CTaskManager::vncSessionChanged);
@@ -170,16 +164,16 @@ void TestTaskManager::directoryThatComesAgain()
         QTRY_COMPARE(count(), 0);
         QVERIFY(QDir().mkpath(MARK_DIR));
         QCoreApplication::processEvents(); // sometimes it finds the empty directory first
-        writeMark("1\n");
+        writeFile(MARK_FILE, "1\n");
         QTRY_COMPARE(count(), 1);
         // At once, before anybody has looked.
         QVERIFY(QDir(gone).removeRecursively());
         QVERIFY(QDir().mkpath(MARK_DIR));
-        writeMark("4\n");
+        writeFile(MARK_FILE, "4\n");
         QTRY_COMPARE(count(), 4);
         QFile::remove(MARK_FILE);
         QTRY_COMPARE(count(), 0);
-        writeMark("5\n");
+        writeFile(MARK_FILE, "5\n");
         QTRY_COMPARE(count(), 5);
     }
 }

@@ -1,5 +1,6 @@
 #include "pluginhost.h"
 #include "systemfacts.h"
+#include "testfiles.h"
 #include "widgets/pushbutton/pushbutton.h"
 
 #include <QMap>
@@ -56,16 +57,10 @@ QString valueOf(const Rows& rows, const char* name)
     return QStringLiteral("no such row");
 }
 
-QByteArray contentOf(const char* fileName)
-{
-    QFile file(QString::fromLatin1(fileName));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /** A number of "/proc/meminfo" in MiB. */
 double mebibytes(const char* key)
 {
-    for (const QByteArray& line : contentOf("/proc/meminfo").split('\n')) {
+    for (const QByteArray& line : readFile("/proc/meminfo"_s).split('\n')) {
         if (line.startsWith(key))
             return line.simplified().split(' ').value(1).toDouble() / 1024;
     }
@@ -87,7 +82,7 @@ qint64 secondsOf(const QString& text)
 
 qint64 uptime()
 {
-    return static_cast<qint64>(contentOf("/proc/uptime").split(' ').first().toDouble());
+    return static_cast<qint64>(readFile("/proc/uptime"_s).split(' ').first().toDouble());
 }
 
 } // namespace
@@ -139,7 +134,7 @@ void TestAbout::trueValues()
 
     QCOMPARE(valueOf(rows, "Shell version"), QStringLiteral(SHELL_VERSION));
     QCOMPARE(valueOf(rows, "Qt version"), QString::fromLatin1(qVersion()));
-    const QByteArray release = contentOf("/proc/sys/kernel/osrelease").trimmed();
+    const QByteArray release = readFile("/proc/sys/kernel/osrelease"_s).trimmed();
     QCOMPARE(valueOf(rows, "Kernel"), QStringLiteral("Linux ") + QString::fromLatin1(release));
     QCOMPARE(valueOf(rows, "Version of this page"), host.plugin->getPluginVersion());
 

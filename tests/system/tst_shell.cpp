@@ -1,40 +1,17 @@
 #include "shellprocess.h"
 
 #include "fixtureplugins.h"
-#include "globalsetting.h"
+#include "testfiles.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTest>
 
 #include <csignal>
-#include <cstring>
-#include <sys/ipc.h>
-#include <sys/shm.h>
 
 namespace {
 
 const QString CONF_DIR = QStringLiteral("/home/root/.zentra");
-constexpr const char KEY_FILE[] = "/usr/local/arvo/share/res/keys/global";
-constexpr int KEY_PROJECT = 86;
-
-void write(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly | QIODevice::Truncate), qPrintable(path));
-    file.write(content);
-}
-
-QByteArray read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-int segment(size_t size, int flags)
-{
-    return ::shmget(::ftok(KEY_FILE, KEY_PROJECT), size, flags);
-}
 
 } // namespace
 
@@ -52,12 +29,9 @@ private slots:
     void signalDuringStart();
     void xServerGoesAway();
 
-    void badConfigurationIsRecovered_data();
     void badConfigurationIsRecovered();
     void readOnlyConfigurationDirectory();
     void languageFileIsFollowed();
-    void sharedSegmentTrouble_data();
-    void sharedSegmentTrouble();
     void withoutBus();
 };
 
@@ -139,28 +113,18 @@ void TestShell::xServerGoesAway()
     QVERIFY2(shell.log().contains(QStringLiteral("X11 connection broke")), qPrintable(shell.log()));
 }
 
-void TestShell::badConfigurationIsRecovered_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("truncated") << QByteArray("<TAVO><language type=\"ge\"");
-    QTest::newRow("binary") << QByteArray("\0\1\2\377\376<TAVO/>", 12);
-    QTest::newRow("50 MB") << QByteArray("<TAVO>") + QByteArray(50 << 20, 'x') + QByteArray("</TAVO>");
-}
-
 void TestShell::badConfigurationIsRecovered()
 {
-    QFETCH(QByteArray, content);
-    QDir().mkpath(CONF_DIR);
+    const QByteArray content("\0\1\2\377\376<TAVO/>", 12);
     const QString settings = CONF_DIR + QStringLiteral("/zentra-settings.xml");
     const QString style = CONF_DIR + QStringLiteral("/widget-style.xml");
-    write(settings, content);
-    write(style, content);
+    writeFile(settings, content);
+    writeFile(style, content);
     CShellProcess shell;
     QVERIFY2(shell.waitForHome(), qPrintable(shell.log()));
-    QVERIFY(read(settings).contains("<language type=\"en\""));
-    QVERIFY(read(style).size() > 100);
-    QVERIFY(content.isEmpty() || read(settings + QStringLiteral(".rejected")) == content);
+    QVERIFY(readFile(settings).contains("<language type=\"en\""));
+    QVERIFY(readFile(style).size() > 100);
+    QVERIFY(readFile(settings + QStringLiteral(".rejected")) == content);
 }
 
 void TestShell::readOnlyConfigurationDirectory()
@@ -173,57 +137,24 @@ void TestShell::readOnlyConfigurationDirectory()
 
 void TestShell::languageFileIsFollowed()
 {
-    QDir().mkpath(CONF_DIR);
-    write(CONF_DIR + QStringLiteral("/zentra-settings.xml"), "<TAVO><language type=\"hu\"/></TAVO>");
+    writeFile(CONF_DIR + QStringLiteral("/zentra-settings.xml"), "<TAVO><language type=\"hu\"/></TAVO>");
     CShellProcess shell;
     QVERIFY2(shell.waitForHome(), qPrintable(shell.log()));
     QVERIFY(shell.log().contains(QStringLiteral("Current System Language: Hungarian")));
     // The platform's language service got the number it counts Hungarian by.
-    QTRY_COMPARE(read(QStringLiteral("/tmp/var/sim/language")).trimmed(), QByteArray("9"));
-}
-
-void TestShell::sharedSegmentTrouble_data()
-{
-    QTest::addColumn<int>("size");
-    QTest::newRow("no segment") << 0;
-    QTest::newRow("smaller than the block") << 1000;
-}
-
-void TestShell::sharedSegmentTrouble()
-{
-    QFETCH(int, size);
-    const int old = segment(0, 0);
-    if (old >= 0)
-        ::shmctl(old, IPC_RMID, nullptr);
-    char* memory = nullptr;
-    if (size > 0) {
-        memory = static_cast<char*>(::shmat(segment(size_t(size), IPC_CREAT | 0600), nullptr, 0));
-        std::memset(memory, 0x5a, size_t(size));
-    }
-    {
-        CShellProcess shell;
-        QVERIFY2(shell.waitForHome(), qPrintable(shell.log()));
-        QVERIFY(shell.log().contains(QStringLiteral("Get Global Setting share memory error!")));
-    }
-    if (memory) {
-        QCOMPARE(QByteArray(memory, size), QByteArray(size, 0x5a));
-        ::shmdt(memory);
-        ::shmctl(segment(0, 0), IPC_RMID, nullptr);
-    }
-    QVERIFY(segment(sizeof(stArvo_global_setting), IPC_CREAT | 0600) >= 0);
+    QTRY_COMPARE(readFile(QStringLiteral("/tmp/var/sim/language")).trimmed(), QByteArray("9"));
 }
 
 void TestShell::withoutBus()
 {
-    QCOMPARE(QProcess::execute(QStringLiteral("simctl"), {QStringLiteral("bus"), QStringLiteral("stop")}), 0);
+    QVERIFY(simctl("bus stop"_s));
     CShellProcess shell;
     QVERIFY2(shell.waitForHome(), qPrintable(shell.log()));
     QVERIFY2(shell.waitForLog(QStringLiteral("### ERROR: FILE:")), qPrintable(shell.log()));
     shell.sendSignal(SIGTERM);
     QVERIFY(shell.waitForEnd());
     QCOMPARE(shell.exitCode(), 0);
-    QCOMPARE(
-        QProcess::execute(QStringLiteral("simctl"), {QStringLiteral("bus"), QStringLiteral("start")}), 0);
+    QVERIFY(simctl("bus start"_s));
 }
 
 QTEST_GUILESS_MAIN(TestShell)

@@ -2,10 +2,8 @@
 #include "sigtransfer.h"
 #include "widgets/pushbutton/pushbutton.h"
 
-#include <QFile>
-#include <QProcess>
-
 #include "infopage.h"
+#include "testfiles.h"
 #include "withdialog.h"
 #include "xscreen.h"
 
@@ -13,23 +11,6 @@ namespace {
 
 const QString MOUNTED = QStringLiteral("/tmp/var/lib/usbd/stat-mounted");
 const QString MOUNT_POINT = QStringLiteral("/home/usbd");
-
-QString textOf(const CDialog* page, const char* name)
-{
-    const auto* label = page->findChild<CLabel*>(QLatin1String(name));
-    return label && label->isVisibleTo(page) ? label->text() : QString();
-}
-
-/** Leaves a picture of the screen in the directory that the environment names, to be looked at. */
-void keepPicture(const char* name)
-{
-    const QString directory = qEnvironmentVariable("PICTURES");
-    if (!directory.isEmpty())
-        QProcess::execute(QStringLiteral("import"),
-            {QStringLiteral("-window"), QStringLiteral("root"),
-                QStringLiteral("%1/%2-%3.png")
-                    .arg(directory, QLatin1String(QTest::currentDataTag()), QLatin1String(name))});
-}
 
 } // namespace
 
@@ -40,17 +21,11 @@ class TestUsbDrive : public QObject
 
 private slots:
     void initTestCase();
-    void cleanup() { turn("unplug"); }
+    void cleanup() { QVERIFY(simctl("usb unplug"_s)); }
     void pageFollowsTheDrive_data();
     void pageFollowsTheDrive();
 
 private:
-    static void turn(const char* state)
-    {
-        QCOMPARE(
-            QProcess::execute(QStringLiteral("simctl"), {QStringLiteral("usb"), QLatin1String(state)}), 0);
-    }
-
     std::unique_ptr<CMainWindow> m_window;
     CXScreen m_screen;
 };
@@ -78,29 +53,29 @@ void TestUsbDrive::pageFollowsTheDrive()
     m_window->translate();
     QString without;
     CWithDialog page([&](CDialog* dialog) {
-        without = textOf(dialog, "usbd");
+        without = textOf(*dialog, "usbd");
         auto* button = dialog->findChild<CPushButton*>(QStringLiteral("usbDrive"));
         QVERIFY(button && !button->isVisible());
-        keepPicture("storage-page-no-drive");
+        keepPicture(*dialog, "storage-page-no-drive "_s + QLatin1String(QTest::currentDataTag()));
 
-        turn("mount");
+        QVERIFY(simctl("usb mount"_s));
         QTRY_VERIFY(button->isVisible());
-        QVERIFY(textOf(dialog, "usbd") != without);
-        QTRY_VERIFY(textOf(dialog, "usbdAvail").toInt() > 0); // measured aside
-        keepPicture("storage-page-drive-in-use");
+        QVERIFY(textOf(*dialog, "usbd") != without);
+        QTRY_VERIFY(textOf(*dialog, "usbdAvail").toInt() > 0); // measured aside
+        keepPicture(*dialog, "storage-page-drive-in-use "_s + QLatin1String(QTest::currentDataTag()));
 
         // Mounted, and cannot be measured: it can still be released.
         QVERIFY(QFile::rename(MOUNT_POINT, MOUNT_POINT + QLatin1Char('2')));
-        QTRY_COMPARE(textOf(dialog, "usbdAvail"), QStringLiteral("---"));
+        QTRY_COMPARE(textOf(*dialog, "usbdAvail"), QStringLiteral("---"));
         QVERIFY(button->isVisible());
-        QVERIFY(textOf(dialog, "usbd") != without);
-        keepPicture("storage-page-drive-unknown");
+        QVERIFY(textOf(*dialog, "usbd") != without);
+        keepPicture(*dialog, "storage-page-drive-unknown "_s + QLatin1String(QTest::currentDataTag()));
         QVERIFY(QFile::rename(MOUNT_POINT + QLatin1Char('2'), MOUNT_POINT));
 
         m_screen.touch(button->mapToGlobal(button->rect().center()));
         QTRY_VERIFY(!QFile::exists(MOUNTED)); // the daemon's answer to the request
         QTRY_VERIFY(!button->isVisible());
-        QCOMPARE(textOf(dialog, "usbd"), without);
+        QCOMPARE(textOf(*dialog, "usbd"), without);
         const auto* ok = dialog->findChild<CPushButton*>(QStringLiteral("ok"));
         m_screen.touch(ok->mapToGlobal(ok->rect().center()));
         QTRY_VERIFY(!dialog->isVisible());

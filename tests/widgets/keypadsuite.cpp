@@ -2,6 +2,7 @@
 
 #include "widgets/checkbox/checkbox.h"
 #include "widgets/keypad/keypaddialog.h"
+#include "widgets/label/label.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/widget/widget.h"
 
@@ -83,6 +84,7 @@ private slots:
             "left left backspace keyx right key, backspace key.", "xb.c");
         row("no more than the limit", Pad::KeyPadText, "abc", 4, "keyd keye backspace keyf keyg", "abcf");
         row("a longer text is cut", Pad::KeyPadText, "abcdef", 4, "backspace", "abc");
+        row("cleared", Pad::KeyPadText, "abc", 0, "clear keyx", "x");
         row("number", Pad::KeyPadNumber, "5", 0, "key0 key- backspace key. key7", "50.7");
         row("address", Pad::KeyPadAddress, "", 0, "keyf keye key8 key0 key: key: key1 key% keyl keyo",
             "fe80::1%lo");
@@ -102,6 +104,10 @@ private slots:
         for (const QString& name : touched.split(QLatin1Char(' ')))
             touch(pad, name);
         QTEST(pad.text(), "typed");
+        const auto* count = pad.findChild<CLabel*>(QStringLiteral("count"));
+        QCOMPARE(count->isVisible(), maxLength > 0);
+        if (maxLength > 0)
+            QCOMPARE(count->text(), QStringLiteral("%1 / %2").arg(pad.text().size()).arg(maxLength));
     }
 
     void keyboardTypes()

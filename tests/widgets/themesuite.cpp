@@ -134,6 +134,32 @@ private slots:
         QCOMPARE(after.pixelColor(60, 21), QColor(0x10, 0x20, 0x30));
     }
 
+    void everyColourHasItsName()
+    {
+        const char* const names[] = {"screen", "toolBox", "textLight", "accent", "toolPage", "toolPageOpen",
+            "pressed", "alert", "button", "textDark", "dialog", "frame", "disabled", "textDisabled", "plate",
+            "textMuted", "field", "title"};
+        QByteArray colors; // no two the same
+        for (int code = 0; code < CWidgetStyle::ColorCount; ++code)
+            colors += QStringLiteral("<color code=\"%1\" value=\"#0000%2\"/>")
+                          .arg(code)
+                          .arg(code + 10)
+                          .toLatin1();
+        const int last = CWidgetStyle::ColorCount - 1;
+        for (int code = 0; code <= last; ++code) {
+            const QString button = QStringLiteral(
+                "<button status=\"2\" frameWidth=\"3\" fill=\"%1\" text=\"%2\" frame=\"%3\"/>")
+                                       .arg(QLatin1String(names[code]), QLatin1String(names[last - code]),
+                                           QLatin1String(names[0]));
+            QVERIFY(CWidgetStyle::initialize(write(themeFile(colors + button.toLatin1()))));
+            const CWidgetStyle::ButtonLook look = CWidgetStyle::getButtonLook(2);
+            QCOMPARE(look.fill, CWidgetStyle::getColor(code));
+            QCOMPARE(look.text, CWidgetStyle::getColor(last - code));
+            QCOMPARE(look.frame, CWidgetStyle::getColor(0));
+            QCOMPARE(look.frameWidth, 3);
+        }
+    }
+
     void anotherThemeKeepsNothingOfTheOld()
     {
         QVERIFY(CWidgetStyle::initialize(write(
