@@ -99,27 +99,15 @@ CDialog::~CDialog()
     delete m_pScrim;
 }
 
-void CDialog::setBackgroundColor(const QColor& color)
+void CDialog::setBackgroundColor(const CThemeColor& color)
 {
     m_frame.setBackgroundColor(color);
     update();
 }
 
-void CDialog::setBackgroundColor(int colorCode)
-{
-    m_frame.setBackgroundColor(colorCode);
-    update();
-}
-
-void CDialog::setBorderColor(const QColor& color)
+void CDialog::setBorderColor(const CThemeColor& color)
 {
     m_frame.setBorderColor(color);
-    roundCorners();
-}
-
-void CDialog::setBorderColor(int colorCode)
-{
-    m_frame.setBorderColor(colorCode);
     roundCorners();
 }
 

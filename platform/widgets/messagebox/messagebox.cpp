@@ -81,14 +81,14 @@ CMessageBox::CMessageBox(const QString& title, const QString& text, Buttons butt
     adjustToText();
 }
 
-void CMessageBox::setTitleBackgroundColor(int colorCode)
+void CMessageBox::setTitleBackgroundColor(const CThemeColor& color)
 {
-    m_pTitle->setBackgroundColor(colorCode);
+    m_pTitle->setBackgroundColor(color);
 }
 
-void CMessageBox::setTitleTextColor(int colorCode)
+void CMessageBox::setTitleTextColor(const CThemeColor& color)
 {
-    m_pTitle->setTextColor(colorCode);
+    m_pTitle->setTextColor(color);
 }
 
 void CMessageBox::setTitleTextSize(int pixels)
@@ -103,9 +103,9 @@ void CMessageBox::setMessageTextSize(int pixels)
     adjustToText();
 }
 
-void CMessageBox::setMessageTextColor(int colorCode)
+void CMessageBox::setMessageTextColor(const CThemeColor& color)
 {
-    m_pText->setTextColor(colorCode);
+    m_pText->setTextColor(color);
 }
 
 void CMessageBox::setMessageAlignment(Qt::Alignment alignment)
