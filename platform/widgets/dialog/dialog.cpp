@@ -23,7 +23,7 @@ constexpr int PressShown = 100; // ms that a button pressed by key looks pressed
 
 int scrimOpacity()
 {
-    return std::clamp(CWidgetStyle::getMetric(QStringLiteral("scrimOpacity"), 90), 0, 254);
+    return std::clamp(CWidgetStyle::getMetric(CWidgetStyle::MetricScrimOpacity), 0, 254);
 }
 
 /** The veil over the window behind a dialog. */
@@ -306,7 +306,7 @@ int CDialog::cornerRadius() const
 {
     const QSize page = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionPageFrame).size();
     const bool isPage = width() >= page.width() || height() >= page.height();
-    return isPage ? 0 : CWidgetStyle::getMetric(QStringLiteral("dialogRadius"), 10);
+    return isPage ? 0 : CWidgetStyle::getMetric(CWidgetStyle::MetricDialogRadius);
 }
 
 void CDialog::roundCorners()

@@ -18,7 +18,7 @@ constexpr qreal DisabledOpacity = 0.4;
 
 int buttonRadius()
 {
-    return CWidgetStyle::getMetric(QStringLiteral("buttonRadius"), 8);
+    return CWidgetStyle::getMetric(CWidgetStyle::MetricButtonRadius);
 }
 
 bool sameValue(const QVariant& one, const QVariant& other)
@@ -40,8 +40,8 @@ CPushButton::CPushButton(const QString& text, QWidget* parent)
     installTouchRegion();
     setFocusPolicy(Qt::NoFocus);
     setAutoDefault(false);
-    resize(CWidgetStyle::getMetric(QStringLiteral("messageButtonWidth"), 120),
-        CWidgetStyle::getMetric(QStringLiteral("messageButtonHeight"), 42));
+    resize(CWidgetStyle::getMetric(CWidgetStyle::MetricMessageButtonWidth),
+        CWidgetStyle::getMetric(CWidgetStyle::MetricMessageButtonHeight));
 }
 
 void CPushButton::setExtraAttribute(ExtraAttribute attribute, const QVariant& value)
@@ -120,7 +120,7 @@ void CPushButton::setArrowKeyFocus(bool on)
 
 QSize CPushButton::sizeHint() const
 {
-    const int target = CWidgetStyle::getMetric(QStringLiteral("touchTarget"), 40);
+    const int target = CWidgetStyle::getMetric(CWidgetStyle::MetricTouchTarget);
     const QFontMetrics metrics(textFont(CWidgetStyle::FontButton));
     QSize size = metrics.size(0, text());
     if (!icon().isNull()) {
@@ -129,7 +129,7 @@ QSize CPushButton::sizeHint() const
     }
     return QSize(size.width() + 2 * (Padding + PlateInset), size.height() + Padding)
         .expandedTo(QSize(
-            target, std::max(target, CWidgetStyle::getMetric(QStringLiteral("messageButtonHeight"), 42))));
+            target, std::max(target, CWidgetStyle::getMetric(CWidgetStyle::MetricMessageButtonHeight))));
 }
 
 void CPushButton::updateWidgetStyle()

@@ -88,7 +88,7 @@ qreal widestPiece(const QString& text, const QFontMetricsF& metrics, bool wrap)
 void CStylePainter::paintButton(QPainter& painter, const QRect& rect, int status)
 {
     const CWidgetStyle::ButtonLook look = CWidgetStyle::getButtonLook(status);
-    const int radius = CWidgetStyle::getMetric(QStringLiteral("buttonRadius"), 8);
+    const int radius = CWidgetStyle::getMetric(CWidgetStyle::MetricButtonRadius);
     if (!look.picture.isEmpty()) {
         static QSet<QString> unreadable; // each is tried and told once
         QPixmap picture;
@@ -127,7 +127,7 @@ void CStylePainter::paintPlate(
 
 void CStylePainter::paintFocusMarker(QPainter& painter, const QRect& rect, int radius)
 {
-    const int width = CWidgetStyle::getMetric(QStringLiteral("focusWidth"), 3);
+    const int width = CWidgetStyle::getMetric(CWidgetStyle::MetricFocusWidth);
     CPainterState state(painter);
     painter.setRenderHint(QPainter::Antialiasing);
     strokeRounded(painter, rect, 0, 1, radius, MarkerLine);
