@@ -36,11 +36,6 @@ void CFrameStyle::setRounded(int radius, Corners corners)
     m_rounded = corners;
 }
 
-bool CFrameStyle::hasBackground() const
-{
-    return !m_picture.isNull() || backgroundColor().isValid();
-}
-
 void CFrameStyle::paint(QPainter& painter, const QRect& rect) const
 {
     const QColor ground = backgroundColor();

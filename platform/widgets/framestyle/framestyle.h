@@ -35,7 +35,6 @@ public:
 
     QColor backgroundColor() const { return m_background.color(); }
     QColor borderColor() const { return m_border.color(); }
-    bool hasBackground() const;
 
     /** Fills `rect` and draws the border just inside it. */
     void paint(QPainter& painter, const QRect& rect) const;

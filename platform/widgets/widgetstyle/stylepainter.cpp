@@ -16,7 +16,6 @@
 
 namespace {
 
-constexpr double ReadableContrast = 4.5;
 const QColor MarkerLine(12, 16, 34);
 constexpr qint64 LargestPicture = 1024 * 1024; // bytes
 
@@ -218,13 +217,4 @@ double CStylePainter::contrast(const QColor& one, const QColor& other)
 {
     const double first = luminance(one), second = luminance(other);
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
-}
-
-QColor CStylePainter::readable(const QColor& wanted, const QColor& ground)
-{
-    if (contrast(wanted, ground) >= ReadableContrast)
-        return wanted;
-    const QColor light = CWidgetStyle::getColor(CWidgetStyle::ColorTextLight);
-    const QColor dark = CWidgetStyle::getColor(CWidgetStyle::ColorTextDark);
-    return contrast(light, ground) >= contrast(dark, ground) ? light : dark;
 }
