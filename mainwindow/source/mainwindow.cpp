@@ -207,13 +207,7 @@ void CMainWindow::createPages()
 void CMainWindow::createDeviceMonitor()
 {
     m_pDevMonitor = new CUsbdMonitor(this);
-    qRegisterMetaType<PowerStatus>("PowerStatus");
-    qRegisterMetaType<BluetoothStatus>("BluetoothStatus");
-    qRegisterMetaType<StorageStatus>("StorageStatus");
-    qRegisterMetaType<WIFIStatus>("WIFIStatus");
-    qRegisterMetaType<OPMStatus>("OPMStatus");
-    qRegisterMetaType<GPSStatus>("GPSStatus");
-    qRegisterMetaType<DataCardStatus>("DataCardStatus");
+    registerStatusTypes();
 
     using Monitor = CDeviceMonitor;
     using Relay = CSigTransfer;
