@@ -5,6 +5,7 @@
 #include "devicemonitor.h"
 #include "pluginman.h"
 #include "shellservice.h"
+#include "standardstreams.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
@@ -14,11 +15,13 @@
 #include <QTimer>
 #include <QX11Info>
 
-#include "startup.h"
-
+// Behind the Qt headers: its macros collide with their names.
 #include <X11/Xatom.h>
+#include <X11/Xlib.h>
+
 #include <cerrno>
 #include <poll.h>
+#include <unistd.h>
 
 namespace {
 
@@ -26,6 +29,17 @@ constexpr int FIRST_PAINT_LIMIT = 2000; // ms; a window that nobody maps is not 
 constexpr int LAUNCH_SETTLE = 2000; // ms
 
 constexpr UtilityID RESIDENT_PLUGINS[] = {UTILITY_ID_WIFI_WIZARD, UTILITY_ID_DATE_TIME, UTILITY_ID_IP_TOOLS};
+
+/** X error handler: prints the error and goes on. */
+int x_error_handler(Display* display, XErrorEvent* error)
+{
+    char text[1024] = "";
+    XGetErrorText(display, error->error_code, text, sizeof text);
+    // The plain "n" at the end is part of the format.
+    standardstreams::write(STDERR_FILENO,
+        ":: X Error - " + QByteArray(text) + " (" + QByteArray::number(error->request_code) + ")n");
+    return 0;
+}
 
 Atom appIndexAtom(Display* display)
 {

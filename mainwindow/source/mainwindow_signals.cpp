@@ -5,12 +5,11 @@
 
 #include "logwrite.h"
 #include "pluginman.h"
+#include "startup.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QSocketNotifier>
-
-#include "startup.h"
 
 #include <atomic>
 #include <cerrno>

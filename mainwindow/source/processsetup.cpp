@@ -1,13 +1,13 @@
 // What the shell makes sure of before there is anything of it: its process, and that it is the only one.
 
+#include "startup.h"
+
 #include "filedescriptor.h"
 #include "standardstreams.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
 #include <QThread>
-
-#include "startup.h"
 
 #include <cerrno>
 #include <csignal>

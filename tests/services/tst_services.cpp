@@ -132,7 +132,9 @@ void TestServices::refusalsCostNoWait()
     QFETCH(QStringList, back);
     const auto newLink = std::make_unique<CBusLink>(Bus);
     const auto usedLink = std::make_unique<CBusLink>(Bus);
+    const auto idleLink = std::make_unique<CBusLink>(Bus); // used before and after only
     QVERIFY(ask(*usedLink));
+    QVERIFY(ask(*idleLink));
     for (const QString& line : gone)
         QVERIFY(simctl(line));
     for (int i = 0; i < 3; ++i) {
@@ -144,6 +146,7 @@ void TestServices::refusalsCostNoWait()
         QVERIFY(simctl(line));
     QVERIFY(ask(*newLink));
     QVERIFY(ask(*usedLink));
+    QVERIFY(ask(*idleLink));
 }
 
 // What hangs is waited for once; then nobody waits until it is heard of again, by answering or by its end.
