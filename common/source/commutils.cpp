@@ -1,6 +1,7 @@
 #include "commutils.h"
 
 #include "fieldtext.h"
+#include "files/plainfile.h"
 #include "xmlfile.h"
 
 #include <QDebug>
@@ -10,6 +11,8 @@
 #include <functional>
 
 namespace {
+
+constexpr int MaxIconSize = 1024 * 1024; // bytes
 
 QString settingsFileName()
 {
@@ -48,12 +51,12 @@ bool readDocument(
 bool writeSettings(const QDomDocument& document, const QString& openFailure)
 {
     switch (xmlfile::write(settingsFileName(), document)) {
-    case xmlfile::WriteResult::Ok:
+    case WriteResult::Ok:
         return true;
-    case xmlfile::WriteResult::CannotOpen:
+    case WriteResult::CannotOpen:
         qWarning("%s", qPrintable(openFailure));
         return false;
-    case xmlfile::WriteResult::Incomplete:
+    case WriteResult::Incomplete:
         qWarning("File: %s can not be written completely.", qPrintable(settingsFileName()));
         return false;
     }
@@ -260,7 +263,9 @@ QList<UtilityInfo> CUICommUtils::getAllUtilities(bool* ok, QString* err)
         info.path = item.attribute(QStringLiteral("path"));
         info.args = item.attribute(QStringLiteral("args"));
         info.wnd_name = item.attribute(QStringLiteral("wnd_name"));
-        info.icon.load(item.attribute(QStringLiteral("icon")));
+        QFile icon(item.attribute(QStringLiteral("icon")));
+        if (openPlainFile(icon))
+            info.icon.loadFromData(icon.read(MaxIconSize));
         result << info;
     }
     return result;

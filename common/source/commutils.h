@@ -8,13 +8,15 @@
 #include <QList>
 #include <QString>
 
+class QTranslator;
+
 /**
  * The fixed files and paths of the unit, its settings and desktop files, and the language of the interface.
  * Static operations without a state; interface thread.
  *
  * Settings file and desktop file are read whole on each operation, changed in memory and written back whole;
- * nothing locks them. Other processes read the settings file too. A file above 1 MiB, or one that declares
- * entities, counts as one that cannot be parsed.
+ * nothing locks them. Other processes read the settings file too; it is all old or all new at any time. A
+ * file above 1 MiB counts as one that cannot be parsed.
  *
  * Nothing is reported by more than the results given below: a failure gives false, an empty list, a zero
  * record or the default language, with a log line that names the file. An optional error text (may be null)
@@ -72,6 +74,8 @@ public:
     static LanguageCode toLangCode(const QString& text);
     /** Full path of the language's translation file, below the application's directory. */
     static QString getTranslateFileName(LanguageCode code);
+    /** Loads that file; one that does not load leaves the translator empty and is logged. */
+    static void loadTranslation(QTranslator& translator, LanguageCode code);
     /** The font for texts of the language; needs a QGuiApplication. */
     static QFont getLangFont(LanguageCode code);
     /** Logs the language's name. */

@@ -1,6 +1,8 @@
 #include "commutils.h"
 
 #include <QCoreApplication>
+#include <QDebug>
+#include <QTranslator>
 
 #include <algorithm>
 #include <iterator>
@@ -62,6 +64,13 @@ LanguageCode CUICommUtils::toLangCode(const QString& text)
 QString CUICommUtils::getTranslateFileName(LanguageCode code)
 {
     return QCoreApplication::applicationDirPath() + QLatin1String(find(code).translationFile);
+}
+
+void CUICommUtils::loadTranslation(QTranslator& translator, LanguageCode code)
+{
+    const QString name = getTranslateFileName(code);
+    if (!translator.load(name))
+        qWarning("[%s]: Translation can not be loaded.", qPrintable(name));
 }
 
 QFont CUICommUtils::getLangFont(LanguageCode code)

@@ -1,8 +1,8 @@
 #include "commutils.h"
 
+#include "files/plainfile.h"
+
 #include <QDebug>
-#include <QFile>
-#include <QFileInfo>
 
 #include <cerrno>
 #include <cstdio>
@@ -46,9 +46,8 @@ int CUICommUtils::pidof(const QString& name)
 bool CUICommUtils::isTestAppDlgPopup()
 {
     constexpr qint64 MaxLineSize = 256;
-    const QString path = QStringLiteral("/tmp/var/lib/wmsv/dlg-info");
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    QFile file(QStringLiteral("/tmp/var/lib/wmsv/dlg-info"));
+    if (!openPlainFile(file))
         return false;
     QString line = QString::fromUtf8(file.readLine(MaxLineSize));
     return line.remove(QStringLiteral("with_dialog: ")).trimmed().toInt() == 1;

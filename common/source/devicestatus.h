@@ -32,15 +32,17 @@ struct BluetoothStatus
     bool bIsPaired = false;
 };
 
+constexpr int UnknownBlocks = -1; ///< of a storage that cannot be measured
+
 struct StorageStatus
 {
     bool bIsUSBDisk = false; ///< the record concerns the USB disk
     bool bIsPlugged = false; ///< a USB disk is plugged in
     bool bIsMounted = false; ///< the USB disk is mounted
-    int diskUsed = 0; ///< internal storage, 1 KiB blocks
+    int diskUsed = 0; ///< internal storage, 1 KiB blocks or UnknownBlocks
     int diskAvail = 0;
     bool bIsUSBDPlugged = false; ///< USB drive present
-    int USBDUsed = 0; ///< USB drive, 4 KiB blocks
+    int USBDUsed = 0; ///< USB drive, 4 KiB blocks or UnknownBlocks
     int USBDAvail = 0;
 };
 

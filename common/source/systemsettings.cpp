@@ -7,6 +7,8 @@
 #include <QDebug>
 #include <QDomElement>
 
+#include <utility>
+
 namespace {
 
 // The store cannot hold an empty key; the attributes without a key of their own share this one.
@@ -66,30 +68,34 @@ CSystemSettings* CSystemSettings::globalSettings()
 CSystemSettings::CSystemSettings(QObject* parent)
     : QObject(parent)
 {
+    const QVariantMap stored = m_file.read();
+    for (auto value = stored.cbegin(); value != stored.cend(); ++value)
+        m_settings.setValue(value.key(), value.value());
     setAttribute(GPS_State_ON, GpsOff);
     attachGlobalSetting();
     creatAttrStrMap();
 
-    // The instance outlives the event loop, which else writes the file after each burst of changes. The first
-    // write tells at once whether there can be any.
-    if (QCoreApplication::instance()) {
-        connect(
-            QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &CSystemSettings::storeNow);
-        QMetaObject::invokeMethod(this, &CSystemSettings::storeNow, Qt::QueuedConnection);
-    }
+    // The instance outlives the event loop, which else has the file written after each burst of changes. The
+    // first write tells at once whether there can be any.
+    if (QCoreApplication::instance())
+        connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
+            storeNow();
+            m_file.flush();
+        });
+}
+
+CSystemSettings::~CSystemSettings()
+{
+    storeNow();
+    detachGlobalSetting();
 }
 
 void CSystemSettings::storeNow()
 {
     const QMutexLocker locker(&m_storeMutex);
-    m_settings.sync();
-    if (m_settings.status() == QSettings::AccessError)
-        qWarning("[%s]: Settings can not be stored.", qPrintable(m_settings.fileName()));
-}
-
-CSystemSettings::~CSystemSettings()
-{
-    detachGlobalSetting();
+    if (m_isStoreAsked)
+        m_file.write(m_changed);
+    m_isStoreAsked = false;
 }
 
 void CSystemSettings::setAttribute(SystemAttribute attribute, const QVariant& value, bool save)
@@ -101,8 +107,12 @@ void CSystemSettings::setAttribute(SystemAttribute attribute, const QVariant& va
     {
         const QMutexLocker locker(&m_storeMutex);
         const QVariant stored = m_settings.value(key);
-        if (stored.userType() != value.userType() || stored != value)
+        if (stored.userType() != value.userType() || stored != value) {
             m_settings.setValue(key, value);
+            m_changed.insert(key, value);
+            if (!std::exchange(m_isStoreAsked, true))
+                QMetaObject::invokeMethod(this, &CSystemSettings::storeNow, Qt::QueuedConnection);
+        }
     }
     if (save && isNeedSaveDef(attribute))
         saveAttribute(attribute, value);

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "settingsfile.h"
+
 #include <QMap>
 #include <QMutex>
 #include <QObject>
-#include <QSettings>
 #include <QString>
 #include <QVariant>
 
@@ -11,9 +12,9 @@ class QDomElement;
 struct stArvo_global_setting;
 
 /**
- * The system-wide settings, one value per SystemAttribute. Values live in the application's own settings
- * file; those that other processes of the instrument need are written into the shared block of global
- * settings as well. Every change is announced.
+ * The system-wide settings, one value per SystemAttribute. Values live in memory, and in the application's
+ * own settings file soon after; those that other processes of the instrument need are written into the shared
+ * block of global settings as well. Every change is announced.
  *
  * One per process, reached through globalSettings() by the shell and its plug-ins. Interface thread, but for
  * getAttribute(), which any thread may call once the interface thread has made the instance. Without a shared
@@ -118,8 +119,11 @@ private:
     void saveAttribute(SystemAttribute attribute, const QVariant& value);
     void loadSubAttributeString(const QDomElement& element);
 
-    mutable QMutex m_storeMutex; // one thread at a time at m_settings; never held while a signal goes out
-    QSettings m_settings;
+    mutable QMutex m_storeMutex; // for the next three; never held while a signal goes out
+    CMemorySettings m_settings;
+    QVariantMap m_changed; // by this process, by key
+    bool m_isStoreAsked = false; // a call of storeNow() is on its way
+    CSettingsFile m_file;
     stArvo_global_setting* m_pGlobalSetting = nullptr; // attached; null if there is none
     QMap<QString, SystemAttribute> m_attrStrMap; // by name in the defaults profile
 };

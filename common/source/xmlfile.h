@@ -1,5 +1,7 @@
 #pragma once
 
+#include "wholefile.h"
+
 #include <QDomDocument>
 #include <QString>
 
@@ -10,24 +12,23 @@
 namespace xmlfile {
 
 constexpr int MaxFileSize = 1024 * 1024; ///< bytes; a larger file counts as one that cannot be parsed
-constexpr int MaxDepth = 100; ///< nested elements; likewise
-constexpr int MaxAttributes
-    = 500; ///< of one element, counted as quoted values from one "<" to the next; likewise
+constexpr int MaxDepth = 500; ///< nested elements; likewise
 
 enum class ReadResult { Ok, CannotOpen, CannotParse };
 
 /**
- * Reads a file or built-in resource into `document`, which is left empty on failure. Only regular files can
- * be opened. A file that is not well-formed, exceeds the limits above or declares entities (none of ours
- * does, and they could expand without bound) cannot be parsed; no more than the size limit is read of it.
+ * Reads a file or built-in resource into `document`, which is left empty on failure. Only plain files can be
+ * opened, by themselves or behind a link. A file that is not well-formed or exceeds the limits above cannot
+ * be parsed, nor one that would keep the parser busy for long: thousands of attributes on one element or of
+ * entity declarations, entities that expand to more than a file may hold. No more than the size limit is
+ * read.
  */
 ReadResult read(const QString& path, QDomDocument& document);
 
-enum class WriteResult { Ok, CannotOpen, Incomplete };
-
 /**
- * Replaces the file by the document, indented by 4 spaces, in the encoding that the document declares.
- * CannotOpen: the old file is untouched. Incomplete: it is gone, and not everything could be written.
+ * Replaces the file by the document, indented by 4 spaces, in the encoding that the document declares, as
+ * writeWholeFile() does: unless the result is Ok, the old file is untouched. Incomplete: also a document that
+ * would be too large to be read again.
  */
 WriteResult write(const QString& path, const QDomDocument& document);
 

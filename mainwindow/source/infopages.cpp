@@ -151,6 +151,10 @@ void CInfoPages::updatePower()
 
 void CInfoPages::updateStorage()
 {
-    if (m_pStoragePage && m_pStoragePage->isVisible())
+    if (!m_pStoragePage)
+        return;
+    if (m_pStoragePage->isVisible())
         showMeasured(m_pMeter->measureWithin(m_fields.storage, STORAGE_REFRESH_WAIT));
+    else
+        m_pMeter->note(m_fields.storage);
 }

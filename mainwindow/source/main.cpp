@@ -62,7 +62,7 @@ int main(int argc, char** argv)
     CMainApplication::setFont(*font);
 
     auto translator = std::make_unique<QTranslator>();
-    translator->load(CUICommUtils::getTranslateFileName(language));
+    CUICommUtils::loadTranslation(*translator, language);
     CMainApplication::installTranslator(translator.get());
 
     auto window = std::make_unique<CMainWindow>(nullptr);

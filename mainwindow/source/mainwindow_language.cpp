@@ -57,7 +57,7 @@ void CMainWindow::applyLanguage(LanguageCode code)
     changeLanguageMiniGui(code);
 
     QApplication::removeTranslator(m_pTrans);
-    m_pTrans->load(CUICommUtils::getTranslateFileName(code));
+    CUICommUtils::loadTranslation(*m_pTrans, code);
     QApplication::installTranslator(m_pTrans);
     QApplication::setFont(CUICommUtils::getLangFont(code));
 

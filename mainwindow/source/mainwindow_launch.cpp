@@ -6,6 +6,7 @@
 #include "pluginman.h"
 #include "shellservice.h"
 
+#include <QDeadlineTimer>
 #include <QDebug>
 #include <QEvent>
 #include <QEventLoop>
@@ -16,11 +17,13 @@
 #include "startup.h"
 
 #include <X11/Xatom.h>
+#include <cerrno>
+#include <poll.h>
 
 namespace {
 
 constexpr int FIRST_PAINT_LIMIT = 2000; // ms; a window that nobody maps is not waited for any longer
-constexpr unsigned long LAUNCH_SETTLE = 2000; // ms
+constexpr int LAUNCH_SETTLE = 2000; // ms
 
 constexpr UtilityID RESIDENT_PLUGINS[] = {UTILITY_ID_WIFI_WIZARD, UTILITY_ID_DATE_TIME, UTILITY_ID_IP_TOOLS};
 
@@ -47,6 +50,14 @@ int readAppIndex(Display* display, Window window, Atom atom)
     if (data)
         XFree(data);
     return index;
+}
+
+/** Holds the event loop on purpose; only the word that the process is to end makes it shorter. */
+void settle(int wordOfTheEnd)
+{
+    const QDeadlineTimer deadline(LAUNCH_SETTLE);
+    pollfd entry = {wordOfTheEnd, POLLIN, 0};
+    while (::poll(&entry, 1, int(deadline.remainingTime())) < 0 && errno == EINTR) { }
 }
 
 } // namespace
@@ -105,7 +116,7 @@ void CMainWindow::postLaunch()
     m_pDevMonitor->wakeupScreen(m_powerStat.bIsBat, 1);
     m_innerPages.runLaunchWork();
     autoLoadPlugins();
-    QThread::msleep(LAUNCH_SETTLE);
+    settle(signalFd[1]);
     new CShellService(this); // the window owns it
     m_pSystemTimer->start();
     selftestPopup();

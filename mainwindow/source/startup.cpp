@@ -1,11 +1,13 @@
 #include "commutils.h"
 #include "mainwindow.h"
 #include "standardstreams.h"
+#include "wholefile.h"
 
 #include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 #include <QThread>
 
 #include "logwrite.h"
@@ -24,6 +26,7 @@ namespace {
 
 constexpr int RECOVER_ATTEMPTS = 5;
 constexpr unsigned long RECOVER_PAUSE = 100; // ms
+constexpr qint64 MIN_ROOM = 65536; // bytes that stay free beside what was moved aside
 constexpr size_t FRAMEBUFFER_BYTES = 768000; // 800 by 480 pixels of 16 bits
 
 constexpr const char RESULT_DIR[] = "/home/root/.resultmanager";
@@ -37,24 +40,38 @@ bool ensureDirectory(const QString& path)
     return false;
 }
 
+void drop(const QString& path)
+{
+    if (!QFile::remove(path)) // a directory that had a file's name may be there
+        QDir(path).removeRecursively();
+}
+
 /** Moves a file that could not be read aside, so that what it holds is not lost. */
 void keepRejected(const QString& path)
 {
+    const QFileInfo file(path);
+    if (!file.exists() || file.size() == 0)
+        return;
     const QString rejected = path + QStringLiteral(".rejected");
-    if (QFileInfo(path).size() > 0 && QFile::exists(path)) {
-        // A directory that had the file's name may be there from an earlier start.
-        if (!QFile::remove(rejected))
-            QDir(rejected).removeRecursively();
-        QFile::rename(path, rejected);
-    }
+    drop(rejected);
+    QFile::rename(path, rejected);
 }
 
-/** Replaces a configuration file by its built-in default. */
+/** Replaces a configuration file by its built-in default. What was moved aside goes if it takes the room. */
 void restoreDefault(const QString& path, const QString& name)
 {
     QFile::remove(path);
-    QFile::copy(QStringLiteral(":/conf/%1").arg(name), path);
-    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    QFile source(QStringLiteral(":/conf/%1").arg(name));
+    const QByteArray content = source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
+    // A change of a setting writes the next file beside this one.
+    if (writeWholeFile(path, content) == WriteResult::Ok && QStorageInfo(path).bytesAvailable() >= MIN_ROOM)
+        return;
+    const QFileInfoList rejected
+        = QDir(QFileInfo(path).path())
+              .entryInfoList({QStringLiteral("*.rejected")}, QDir::AllEntries | QDir::Hidden | QDir::System);
+    for (const QFileInfo& file : rejected)
+        drop(file.filePath());
+    writeWholeFile(path, content);
 }
 
 bool recoverFile(const QString& path, const QString& name)
@@ -62,8 +79,11 @@ bool recoverFile(const QString& path, const QString& name)
     for (int attempt = 0; attempt < RECOVER_ATTEMPTS; ++attempt) {
         if (CUICommUtils::checkConfFile(path))
             return true;
-        if (attempt == 0)
+        if (attempt == 0) {
+            qWarning("[%s]: Configuration is %s, replaced by the built-in default", qPrintable(path),
+                QFile::exists(path) ? "not readable" : "missing");
             keepRejected(path);
+        }
         restoreDefault(path, name);
         QThread::msleep(RECOVER_PAUSE);
     }

@@ -1,10 +1,11 @@
 #include "taskmanager.h"
 
 #include "commutils.h"
+#include "files/plainfile.h"
 
 #include <QDebug>
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QFileSystemWatcher>
 #include <QTimer>
 
@@ -14,9 +15,18 @@ constexpr unsigned long START_DELAY = 100; // ms
 constexpr unsigned long NOTIFY_DELAY = 1000; // ms
 constexpr int COUNT_LINE = 32; // bytes; far more than a session count takes
 
-int readSessionCount(QFile& file)
+/** The number on the file's first line, 0 if there is none; `none` if the file is not to be opened. */
+int readSessionCount(int none)
 {
-    return QString::fromLatin1(file.readLine(COUNT_LINE)).trimmed().toInt();
+    QFile file(CUICommUtils::getVNCSessionMarkFileName());
+    return openPlainFile(file) ? QString::fromLatin1(file.readLine(COUNT_LINE)).trimmed().toInt() : none;
+}
+
+/** The directory and those that it is in, from the outermost below the root. */
+QStringList pathTo(const QString& directory)
+{
+    const QString parent = QFileInfo(directory).path();
+    return directory == parent ? QStringList() : pathTo(parent) << directory;
 }
 
 } // namespace
@@ -37,12 +47,33 @@ void CTaskManager::initFSWatcher()
 {
     m_pFSWatcher = new QFileSystemWatcher(this);
     const QString directory = CUICommUtils::getVNCSessionMarkFileDirPath();
-    // The remote viewer makes the directory with its first session; there must be something to watch before.
+    // The remote viewer makes the directory with its first session; till then it is there for who looks.
     if (!QDir().mkpath(directory))
-        qWarning().noquote() << "Can not create" << directory << "- remote viewer sessions are not counted";
-    else
-        m_pFSWatcher->addPath(directory);
+        qWarning().noquote() << "Can not create" << directory;
+    watchSessions();
     connect(m_pFSWatcher, &QFileSystemWatcher::directoryChanged, this, &CTaskManager::dirChanged);
+    connect(
+        m_pFSWatcher, &QFileSystemWatcher::directoryChanged, this, [this, directory](const QString& path) {
+            if (path == directory)
+                return;
+            watchSessions(); // one further in may be another one now
+            if (readSessionCount(0) != m_vncSessionCount)
+                dirChanged(directory);
+        });
+}
+
+// Every directory on the way, as each of them may go and come again. The outer ones first: what is made after
+// the look at an inner one is then told.
+void CTaskManager::watchSessions()
+{
+    const QStringList watched = m_pFSWatcher->directories();
+    if (!watched.isEmpty())
+        m_pFSWatcher->removePaths(watched); // of one that was moved away the old place would still be watched
+    const QStringList directories = pathTo(CUICommUtils::getVNCSessionMarkFileDirPath());
+    for (const QString& directory : directories) {
+        if (QFileInfo(directory).isDir() && !m_pFSWatcher->addPath(directory))
+            qWarning().noquote() << "Can not watch" << directory << "- remote viewers may not be counted";
+    }
 }
 
 void CTaskManager::startUtil(int id)
@@ -92,11 +123,8 @@ void CTaskManager::finishTask()
 
 bool CTaskManager::isVNCClientAttached()
 {
-    QFile file(CUICommUtils::getVNCSessionMarkFileName());
-    if (!file.exists())
-        m_vncSessionCount = 0;
-    else if (file.open(QIODevice::ReadOnly))
-        m_vncSessionCount = readSessionCount(file);
+    const bool exists = QFile::exists(CUICommUtils::getVNCSessionMarkFileName());
+    m_vncSessionCount = exists ? readSessionCount(m_vncSessionCount) : 0;
     return m_vncSessionCount >= 1;
 }
 
@@ -104,10 +132,7 @@ void CTaskManager::dirChanged(const QString& path)
 {
     if (path != CUICommUtils::getVNCSessionMarkFileDirPath())
         return;
-    m_vncSessionCount = 0;
-    QFile file(CUICommUtils::getVNCSessionMarkFileName());
-    if (file.open(QIODevice::ReadOnly))
-        m_vncSessionCount = readSessionCount(file);
+    m_vncSessionCount = readSessionCount(0);
     emit vncSessionChanged(m_vncSessionCount);
 }
 

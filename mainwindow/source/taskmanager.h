@@ -10,7 +10,7 @@ class QFileSystemWatcher;
 /**
  * Runs one short task at a time off the interface thread and reports with a queued signal, above all the 100
  * ms between showing the start window and loading a plug-in. Also counts the attached remote viewers by their
- * session mark file.
+ * session mark file, whose directory may be removed and made again.
  *
  * The object lives on the interface thread and belongs to the main window; only run() is on the worker
  * thread.
@@ -56,6 +56,7 @@ protected:
 private:
     void initFSWatcher();
     void startWithoutThread();
+    void watchSessions();
 
     std::atomic<int> m_operCode{NoCtrl};
     std::atomic<int> m_clientWndState{0};

@@ -29,6 +29,17 @@ QByteArray kernelName(const QString& process)
     return file.readAll().trimmed();
 }
 
+// One that has ended keeps its place in the table until its parent looks; it runs no more.
+bool hasEnded(const QString& process)
+{
+    QFile file(process + QStringLiteral("/stat"));
+    if (!file.open(QIODevice::ReadOnly))
+        return true;
+    const QByteArray line = file.readAll();
+    const QByteArray state = line.mid(line.lastIndexOf(')') + 1).trimmed().left(1); // a name may hold ")"
+    return state == "Z" || state == "X";
+}
+
 } // namespace
 
 bool CCommUtils::IsProcessExist(const QString& name)
@@ -42,7 +53,7 @@ bool CCommUtils::IsProcessExist(const QString& name)
         if (!entry.at(0).isDigit())
             continue;
         const QString process = table.filePath(entry);
-        if (programName(process) == wanted || kernelName(process) == wanted)
+        if ((programName(process) == wanted || kernelName(process) == wanted) && !hasEnded(process))
             return true;
     }
     return false;

@@ -9,7 +9,7 @@ class CCommUtils
 {
 public:
     /** True when a process whose program name (last part of argv[0], or the kernel's name) equals `name`
-     * runs. */
+     * runs. One that has ended and waits for its parent does not. */
     static bool IsProcessExist(const QString& name);
 };
 

@@ -66,12 +66,11 @@ void CPowerMonitor::initialize()
     m_pTitleLabel->setBold(true);
     m_pTitleLabel->setAlignment(Qt::AlignCenter);
     m_pTitleLabel->setBackgroundColor(CWidgetStyle::ColorTitle);
+    setTitleLabel(m_pTitleLabel);
     m_pTitleLabel->setTextColor(CWidgetStyle::ColorTextLight);
     m_pPowerLvlBar->setBorderColor(QColor(Qt::gray));
     m_pPowerLvlBar->setBarColor(CWidgetStyle::getColor(CWidgetStyle::ColorButton));
-    m_pBtnOk->setBackgroundColor(QColor(Qt::gray));
-    m_pBtnOk->setExtraAttribute(CPushButton::ReleaseColor, int(CWidgetStyle::ColorTextDark));
-    m_pBtnOk->setExtraAttribute(CPushButton::PressColor, int(CWidgetStyle::ColorTextLight));
+    m_pBtnOk->setQuiet();
 
     translate();
     updatePowerStatus(m_status);

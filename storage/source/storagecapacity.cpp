@@ -15,29 +15,27 @@ int toBlocks(quint64 units, quint64 unitSize, int blockSize)
     return blocks > Bytes(Most) ? Most : static_cast<int>(blocks);
 }
 
-bool measureCapacity(const QString& path, int blockSize, int& used, int& avail)
+StorageCapacity measureCapacity(const QString& path, int blockSize)
 {
-    used = 0;
-    avail = 0;
     struct statvfs figures = {};
     int result;
     do {
         result = ::statvfs(QFile::encodeName(path).constData(), &figures);
     } while (result != 0 && errno == EINTR);
     if (result != 0)
-        return false;
+        return {};
     const quint64 unit = figures.f_frsize ? figures.f_frsize : figures.f_bsize;
     const quint64 usedUnits = figures.f_blocks > figures.f_bfree ? figures.f_blocks - figures.f_bfree : 0;
-    used = toBlocks(usedUnits, unit, blockSize);
-    avail = toBlocks(figures.f_bavail, unit, blockSize);
-    return true;
+    return {toBlocks(usedUnits, unit, blockSize), toBlocks(figures.f_bavail, unit, blockSize)};
 }
 
-void measureStorage(StorageStatus& status, const QString& diskPath, const QString& usbMountPoint)
+StorageStatus withCapacities(
+    StorageStatus record, const StorageCapacity& disk, const StorageCapacity& usbDrive)
 {
-    measureCapacity(diskPath, DiskBlock, status.diskUsed, status.diskAvail);
-    status.USBDUsed = 0;
-    status.USBDAvail = 0;
-    status.bIsUSBDPlugged = status.bIsMounted
-        && measureCapacity(usbMountPoint, USBDriveBlock, status.USBDUsed, status.USBDAvail);
+    record.diskUsed = disk.used;
+    record.diskAvail = disk.avail;
+    record.bIsUSBDPlugged = record.bIsMounted;
+    record.USBDUsed = record.bIsMounted ? usbDrive.used : 0;
+    record.USBDAvail = record.bIsMounted ? usbDrive.avail : 0;
+    return record;
 }

@@ -9,6 +9,13 @@
 constexpr int DiskBlock = 1024; ///< bytes of the blocks that the internal storage is counted in
 constexpr int USBDriveBlock = 4096; ///< bytes of the blocks that the USB drive is counted in
 
+/** How full a storage is, in blocks; UnknownBlocks in both where nobody could tell. */
+struct StorageCapacity
+{
+    int used = UnknownBlocks;
+    int avail = UnknownBlocks;
+};
+
 /**
  * A number of units of `unitSize` bytes in whole blocks of `blockSize` bytes; more than an int holds is the
  * largest int. Pure.
@@ -16,14 +23,14 @@ constexpr int USBDriveBlock = 4096; ///< bytes of the blocks that the USB drive 
 int toBlocks(quint64 units, quint64 unitSize, int blockSize);
 
 /**
- * Used and available blocks of the file system that holds `path`. What only the superuser may use is neither.
- * @return false, with both 0, when it cannot be measured
+ * Used and available blocks of the file system that holds `path`; unknown when it cannot be measured. What
+ * only the superuser may use is neither.
  */
-bool measureCapacity(const QString& path, int blockSize, int& used, int& avail);
+StorageCapacity measureCapacity(const QString& path, int blockSize);
 
 /**
- * Completes the monitor's record for the storage page: the internal storage, and the USB drive exactly when
- * it is mounted; bIsUSBDPlugged says whether its figures hold. What cannot be measured is 0.
+ * The monitor's record completed for the storage page. A USB drive is there exactly when it is mounted,
+ * measured or not: one that is not in use has no figures. Pure.
  */
-void measureStorage(StorageStatus& status, const QString& diskPath = QStringLiteral("/home"),
-    const QString& usbMountPoint = QStringLiteral("/home/usbd"));
+StorageStatus withCapacities(
+    StorageStatus record, const StorageCapacity& disk, const StorageCapacity& usbDrive);

@@ -67,11 +67,9 @@ void CStorageMonitor::initialize()
     m_pTitleLabel->setTextSize(TitleTextSize);
     m_pTitleLabel->setAlignment(Qt::AlignCenter);
     m_pTitleLabel->setBackgroundColor(CWidgetStyle::ColorTitle);
+    setTitleLabel(m_pTitleLabel);
     m_pTitleLabel->setTextColor(CWidgetStyle::ColorTextLight);
-    // As on the power page, which opens beside this one.
-    m_pBtnOk->setBackgroundColor(QColor(Qt::gray));
-    m_pBtnOk->setExtraAttribute(CPushButton::ReleaseColor, int(CWidgetStyle::ColorTextDark));
-    m_pBtnOk->setExtraAttribute(CPushButton::PressColor, int(CWidgetStyle::ColorTextLight));
+    m_pBtnOk->setQuiet();
     for (CLabel* heading : {m_pTitleLabel, m_pStorageInfoLabel, m_pUSBDriveLabel})
         heading->setBold(true);
 

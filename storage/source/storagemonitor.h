@@ -13,7 +13,7 @@ struct StorageFigures;
 /**
  * The storage page: size, use and ratio of the internal storage, and of the USB drive when one is in use,
  * with a button that releases it. A modal dialog that its owner opens with a complete record
- * (measureStorage()) and may refresh while it is up. The page changes nothing itself: the next record shows
+ * (CStorageMeter) and may refresh while it is up. The page changes nothing itself: the next record shows
  * what came of a request.
  *
  * Interface thread only. Owned by its Qt parent.

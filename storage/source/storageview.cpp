@@ -6,6 +6,10 @@ namespace {
 
 StorageFigures figuresOf(int used, int avail)
 {
+    if (used == UnknownBlocks || avail == UnknownBlocks) {
+        const QString unknown = QStringLiteral("---");
+        return {unknown, unknown, unknown, unknown};
+    }
     const qint64 total = qint64(used) + avail;
     const qint64 ratio = total < 1 ? 0 : qint64(used) * 100 / total;
     return {QString::number(total), QString::number(used), QString::number(avail),

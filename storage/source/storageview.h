@@ -22,5 +22,8 @@ struct StorageView
     const char* usbdState = ""; ///< source text, to be translated in the context "CStorageMonitor"
 };
 
-/** Numbers are shown in the blocks of the record, the ratio truncated to whole per cent. Pure. */
+/**
+ * Numbers are shown in the blocks of the record, the ratio truncated to whole per cent; figures that nobody
+ * knows are dashes. Pure.
+ */
 StorageView storageView(const StorageStatus& status);

@@ -4,9 +4,11 @@
 #include "detachedcommand.h"
 #include <QGuiApplication>
 #include <QImage>
+#include <QTranslator>
 
 #include <cstring>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 using Lines = QStringList;
 
@@ -37,6 +39,7 @@ private slots:
     void pidof();
     void dialogState_data();
     void dialogState();
+    void translationThatDoesNotLoad();
 };
 
 void tst_CommUtils::appState_data()
@@ -262,6 +265,11 @@ void tst_CommUtils::utilities()
     QCOMPARE(list.at(0).icon.size(), QSize(3, 4));
     QCOMPARE(list.at(1).id, 7);
 
+    // An icon that never comes.
+    QVERIFY(QFile::remove("/tmp/icon.png"_s));
+    QCOMPARE(::mkfifo("/tmp/icon.png", 0600), 0);
+    QVERIFY(CUICommUtils::getAllUtilities(nullptr).at(0).icon.isNull());
+
     for (const char* content : {"<TAVO/>", "<TAVO><desktop/></TAVO>"}) {
         writeFile(Desktop, content);
         ok = true;
@@ -273,18 +281,15 @@ void tst_CommUtils::utilities()
 void tst_CommUtils::pidof_data()
 {
     QTest::addColumn<int>("instances");
-    QTest::addColumn<bool>("reaper");
-    QTest::newRow("none") << 0 << false;
-    QTest::newRow("one") << 1 << false;
-    QTest::newRow("two") << 2 << false;
+    QTest::newRow("none") << 0;
+    QTest::newRow("one") << 1;
+    QTest::newRow("two") << 2;
 }
 
 void tst_CommUtils::pidof()
 {
     QFETCH(int, instances);
-    QFETCH(bool, reaper);
-    const std::unique_ptr<ChildReaper> installed(reaper ? new ChildReaper : nullptr);
-    const QString program = "/tmp/lookedup%1%2"_s.arg(instances).arg(reaper);
+    const QString program = "/tmp/lookedup%1"_s.arg(instances);
     QFile::remove(program);
     QVERIFY(QFile::copy("/usr/bin/sleep"_s, program));
     std::vector<CDetachedCommand> commands(static_cast<size_t>(instances));
@@ -317,6 +322,19 @@ void tst_CommUtils::dialogState()
     QCOMPARE(CUICommUtils::isTestAppDlgPopup(), expected);
     QVERIFY(QFile::remove(path));
     QVERIFY(!CUICommUtils::isTestAppDlgPopup());
+    QCOMPARE(::mkfifo(qPrintable(path), 0600), 0);
+    const auto removed = qScopeGuard([&path] { QFile::remove(path); });
+    QVERIFY(!CUICommUtils::isTestAppDlgPopup());
+}
+
+void tst_CommUtils::translationThatDoesNotLoad()
+{
+    const QString name = CUICommUtils::getTranslateFileName(LANGUAGE_GERMAN);
+    QTranslator translator;
+    QTest::ignoreMessage(
+        QtWarningMsg, qPrintable("[%1]: Translation can not be loaded."_s.arg(name))); // not beside a test
+    CUICommUtils::loadTranslation(translator, LANGUAGE_GERMAN);
+    QVERIFY(translator.isEmpty());
 }
 
 QTEST_MAIN(tst_CommUtils)

@@ -1,13 +1,11 @@
 #include "commutils.h"
 #include "conffiles.h"
 #include "filedescriptor.h"
-#include "xmlfile.h"
+#include "smalldisk.h"
 
-#include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/mman.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 class tst_ConfFiles : public QObject
@@ -19,9 +17,12 @@ private slots:
     void init() { resetConfFiles(); }
     void unusableFiles_data();
     void unusableFiles();
+    void unusualFiles_data();
     void unusualFiles();
     void failedWrites_data();
     void failedWrites();
+    void savedFileIsReadableByAll();
+    void indentedBeyondTheLimit();
     void encodingIsKept_data();
     void encodingIsKept();
     void repeatedSavesDoNotGrow();
@@ -30,7 +31,7 @@ private slots:
 void tst_ConfFiles::unusableFiles_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QByteArray>("kind"); // file, missing, directory, pipe, huge
+    QTest::addColumn<QByteArray>("kind"); // file, missing, pipe, huge
     QTest::addColumn<QByteArray>("message");
     const QByteArray good = builtIn("zentra-settings.xml");
     const auto file = [](const char* name, const QByteArray& content) {
@@ -49,24 +50,71 @@ void tst_ConfFiles::unusableFiles_data()
     file("all zero, as a power cut leaves it", QByteArray(good.size(), '\0'));
     file("broken UTF-8", "<TAVO><language type='\xff\xff'/></TAVO>");
     file("nested without end", QByteArray("<a>").repeated(120000) + QByteArray("</a>").repeated(120000));
-    QByteArray attributes;
-    for (int number = 0; number < 90000; ++number)
-        attributes += " a" + QByteArray::number(number) + "=''";
+    const auto numbered = [](int count, const char* before, const char* after) {
+        QByteArray text;
+        for (int number = 0; number < count; ++number)
+            text += before + QByteArray::number(number) + after;
+        return text;
+    };
+    file("crowded element", "<TAVO" + numbered(90000, " a", "=''") + "/>");
+    // Two bytes a character, and no mark that says so.
+    QByteArray wide;
+    for (const char byte : QByteArray("<?xml version='1.0'?><TAVO" + numbered(30000, " a", "=''") + "/>"))
+        wide.append(byte).append('\0');
+    file("crowded element in UTF-16", wide);
+    file("crowd of declared attributes",
+        "<!DOCTYPE TAVO [<!ATTLIST a" + numbered(60000, " a", " ID #IMPLIED") + ">]><TAVO/>");
+    file("attributes that the document type adds",
+        "<!DOCTYPE TAVO [<!ATTLIST a" + numbered(3000, " a", " CDATA 'x'") + ">]><TAVO>"
+            + QByteArray("<a/>").repeated(200000) + "</TAVO>");
+    file("crowd of entities", "<!DOCTYPE TAVO [" + numbered(40000, "<!ENTITY a", " ''>") + "]><TAVO/>");
+    QByteArray nested = "<!DOCTYPE TAVO [<!ENTITY a0 'xxxxxxxxxx'>";
+    for (int number = 1; number < 10; ++number)
+        nested += "<!ENTITY a" + QByteArray::number(number) + " '"
+            + QByteArray("&a" + QByteArray::number(number - 1) + ";").repeated(10) + "'>";
+    file("nested entities", nested + "]><TAVO>&a9;</TAVO>");
     file("expanding entities",
         "<!DOCTYPE TAVO [<!ENTITY a \"" + QByteArray(4000, 'x') + "\">]><TAVO>"
             + QByteArray("&a;").repeated(300000) + "</TAVO>");
 }
 
+void tst_ConfFiles::unusualFiles_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("inside");
+    const auto row = [](const char* name, const QByteArray& before, const QByteArray& inside) {
+        QTest::newRow(name) << before << inside;
+    };
+    const QByteArray values = QByteArray("=\"").repeated(50001);
+    row("values in a comment", "<!--" + values + "-->", "");
+    row("values in a CDATA section", "", "<a><![CDATA[<" + values + "]]></a>");
+    row("values in an instruction", "<?a " + values + "?>", "");
+    row("values in a text", "", "<a>" + values + "</a>");
+    row("values in a value", "", "<a b='" + values + "'/>");
+    QByteArray attributes;
+    for (int number = 0; number < 5000; ++number)
+        attributes += " a" + QByteArray::number(number) + "=\"'\"";
+    row("many attributes", "", "<a" + attributes + "/>");
+    row("long value", "", "<a b='" + QByteArray(900000, 'x') + "'/>");
+    row("many elements", "", QByteArray("<a/>").repeated(100000));
+    row("deep elements", "", QByteArray("<a>").repeated(400) + QByteArray("</a>").repeated(400));
+    row("document type", "<!DOCTYPE TAVO>", "");
+    row("entity", "<!DOCTYPE TAVO [<!ENTITY a 'b'>]>", "<a b='&a;'>&a;</a>");
+    row("many references", "<!DOCTYPE TAVO [<!ENTITY a 'b'>]>",
+        "<a>" + QByteArray("&a;&amp;").repeated(50000) + "</a>");
+    row("long entity", "<!DOCTYPE TAVO [<!ENTITY a '" + QByteArray(20000, 'x') + "'>]>", "<a>&a;&a;</a>");
+}
+
 void tst_ConfFiles::unusualFiles()
 {
-    // What only looks dangerous is read.
-    for (const QByteArray& content : {QByteArray("<!--") + QByteArray(xmlfile::MaxAttributes * 2, '=')
-                 + QByteArray("--><TAVO><language type='ge'/></TAVO>"),
-             QByteArray("<!DOCTYPE TAVO><TAVO><language type='ge'/></TAVO>")}) {
-        writeFile(Settings, content);
-        QVERIFY(CUICommUtils::checkConfFile(Settings));
-        QCOMPARE(CUICommUtils::getLanguageCode(), LANGUAGE_GERMAN);
-    }
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, inside);
+    writeFile(Settings, before + "<TAVO>" + inside + "<language type='ge'/></TAVO>");
+    QVERIFY(CUICommUtils::checkConfFile(Settings));
+    QCOMPARE(CUICommUtils::getLanguageCode(), LANGUAGE_GERMAN);
+    // And what is saved is as good.
+    QVERIFY(CUICommUtils::saveLanguage(LANGUAGE_FRENCH));
+    QCOMPARE(CUICommUtils::getLanguageCode(), LANGUAGE_FRENCH);
 }
 
 void tst_ConfFiles::unusableFiles()
@@ -76,9 +124,7 @@ void tst_ConfFiles::unusableFiles()
     QFETCH(QByteArray, message);
     for (const QString& path : {Settings, Desktop}) {
         QFile::remove(path);
-        if (kind == "directory")
-            QVERIFY(QDir().mkdir(path));
-        else if (kind == "pipe")
+        if (kind == "pipe")
             QCOMPARE(::mkfifo(qPrintable(path), 0600), 0);
         else if (kind != "missing")
             writeFile(path, content);
@@ -130,7 +176,6 @@ void tst_ConfFiles::unusableFiles()
 
     if (kind == "file")
         QCOMPARE(readFile(Settings), content);
-    QVERIFY(kind != "directory" || (QDir().rmdir(Settings) && QDir().rmdir(Desktop)));
 }
 
 void tst_ConfFiles::failedWrites_data()
@@ -146,13 +191,7 @@ void tst_ConfFiles::failedWrites()
     const QByteArray before = readFile(Settings);
     // A sealed file can be read, but not be truncated, not even by root.
     const CFileDescriptor sealed(::memfd_create("settings", MFD_ALLOW_SEALING));
-    rlimit limit = {};
-    ::getrlimit(RLIMIT_FSIZE, &limit);
-    const auto signalBefore = std::signal(SIGXFSZ, SIG_IGN);
-    if (diskFull) {
-        const rlimit small = {60, limit.rlim_max};
-        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    } else {
+    if (!diskFull) {
         QCOMPARE(::write(sealed.get(), before.constData(), static_cast<size_t>(before.size())),
             ssize_t(before.size()));
         QCOMPARE(::fcntl(sealed.get(), F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_WRITE), 0);
@@ -163,25 +202,47 @@ void tst_ConfFiles::failedWrites()
         QTest::ignoreMessage(QtWarningMsg,
             diskFull ? "File: /home/root/.zentra/zentra-settings.xml can not be written completely." : line);
     };
-    expect("File: /home/root/.zentra/zentra-settings.xml can not open for write.");
-    const bool state = CUICommUtils::saveAppState(0, "X"_s, true);
-    // What the first one left behind cannot be parsed; this one can, and grows beyond the limit.
-    const QByteArray fits = "<TAVO><BOARD sn='12345678901234567890123456789'/></TAVO>";
-    if (diskFull)
-        writeFile(Settings, fits);
-    expect("saveLanguage: [ zentra-settings ]: can not open for write.");
-    const bool language = CUICommUtils::saveLanguage(LANGUAGE_RUSSIAN);
-    if (diskFull)
-        writeFile(Settings, fits);
-    expect("saveStorageSetting: [ zentra-settings ]: can not open for write.");
-    const bool storage = CUICommUtils::saveStorageSetting({});
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, signalBefore);
-    QVERIFY(!state);
-    QVERIFY(!language);
-    QVERIFY(!storage);
-    if (!diskFull)
-        QCOMPARE(readFile(Settings), before);
+    {
+        const CFileSizeLimit limit(diskFull ? 60 : RLIM_INFINITY);
+        expect("File: /home/root/.zentra/zentra-settings.xml can not open for write.");
+        QVERIFY(!CUICommUtils::saveAppState(0, "X"_s, true));
+        expect("saveLanguage: [ zentra-settings ]: can not open for write.");
+        QVERIFY(!CUICommUtils::saveLanguage(LANGUAGE_RUSSIAN));
+        expect("saveStorageSetting: [ zentra-settings ]: can not open for write.");
+        QVERIFY(!CUICommUtils::saveStorageSetting({}));
+    }
+    QCOMPARE(readFile(Settings), before);
+    // And no part of a new one lies about.
+    const QFileInfo file(Settings);
+    QCOMPARE(file.dir().entryList({"*settings*"_s}, QDir::Files), QStringList(file.fileName()));
+}
+
+void tst_ConfFiles::savedFileIsReadableByAll()
+{
+    // Behind a link, as on a unit that keeps its files elsewhere.
+    const QString elsewhere = "/home/root/elsewhere.xml"_s;
+    writeFile(elsewhere, readFile(Settings));
+    QVERIFY(QFile::setPermissions(elsewhere, QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(QFile::remove(Settings));
+    QVERIFY(QFile::link(elsewhere, Settings));
+    const mode_t maskBefore = ::umask(077);
+    QVERIFY(CUICommUtils::saveLanguage(LANGUAGE_HUNGARIAN));
+    ::umask(maskBefore);
+    QVERIFY(QFileInfo(Settings).isSymLink());
+    QVERIFY(readFile(elsewhere).contains("hu"));
+    struct stat state = {};
+    QCOMPARE(::stat(qPrintable(elsewhere), &state), 0);
+    QCOMPARE(int(state.st_mode & 07777), 0644);
+}
+
+void tst_ConfFiles::indentedBeyondTheLimit()
+{
+    const QByteArray crowd = "<TAVO><a><b><c>" + QByteArray("<d/>").repeated(200000) + "</c></b></a></TAVO>";
+    writeFile(Settings, crowd);
+    QTest::ignoreMessage(
+        QtWarningMsg, "File: /home/root/.zentra/zentra-settings.xml can not be written completely.");
+    QVERIFY(!CUICommUtils::saveLanguage(LANGUAGE_HUNGARIAN));
+    QVERIFY(readFile(Settings) == crowd);
 }
 
 void tst_ConfFiles::encodingIsKept_data()

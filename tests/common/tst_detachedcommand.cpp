@@ -16,11 +16,6 @@ static QStringList shell(const char* script)
     return {"sh"_s, "-c"_s, QString::fromUtf8(script)};
 }
 
-static int openDescriptors()
-{
-    return QDir("/proc/self/fd"_s).entryList(QDir::Files | QDir::System).size();
-}
-
 static Lines linesOf(const QStringList& argv, int timeoutMs = 20000)
 {
     Lines lines;

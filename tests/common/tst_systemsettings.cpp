@@ -1,13 +1,21 @@
+#include "filedescriptor.h"
 #include "globalsetting.h"
+#include "smalldisk.h"
 #include "systemsettings.h"
 #include "testfiles.h"
 
 #include <QSettings>
 
 #include <cstring>
+#include <fcntl.h>
+#include <linux/auto_fs.h>
+#include <memory>
+#include <sys/ioctl.h>
 #include <sys/ipc.h>
 #include <sys/shm.h>
 #include <sys/stat.h>
+#include <thread>
+#include <vector>
 
 using S = CSystemSettings;
 
@@ -69,13 +77,62 @@ static const QString& nativeFile()
     return name;
 }
 
+// The line of the log that says it, whatever reason it gives.
+static QRegularExpression stored(const char* what)
+{
+    return QRegularExpression(
+        "^\\[%1\\]: Settings %2"_s.arg(QRegularExpression::escape(nativeFile()), QString::fromLatin1(what)));
+}
+
+static int runningThreads()
+{
+    return QDir("/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+}
+
+/** A disk that never answers, over a directory, as long as it lives: nobody serves what is asked there. */
+class CDeadDisk
+{
+public:
+    explicit CDeadDisk(const QString& directory)
+        : m_directory(QFile::encodeName(directory))
+    {
+        int ends[2];
+        QDir().mkpath(directory);
+        ::setpgid(0, 0); // processes of the group of the one that serves are not held
+        if (::pipe2(ends, O_CLOEXEC | O_DIRECT) != 0)
+            return;
+        m_requests.reset(ends[0]);
+        const CFileDescriptor kernel(ends[1]);
+        const QByteArray options
+            = "fd=" + QByteArray::number(kernel.get()) + ",pgrp=1,minproto=5,maxproto=5,indirect";
+        if (::mount("test", m_directory.constData(), "autofs", 0, options.constData()) == 0)
+            m_root.reset(::open(m_directory.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    }
+    ~CDeadDisk()
+    {
+        if (!isMounted())
+            return;
+        ::ioctl(m_root.get(), AUTOFS_IOC_CATATONIC, 0); // lets go who waits
+        ::umount2(m_directory.constData(), MNT_DETACH);
+    }
+    CDeadDisk(const CDeadDisk&) = delete;
+    CDeadDisk& operator=(const CDeadDisk&) = delete;
+
+    bool isMounted() const { return m_root.isValid(); }
+
+private:
+    QByteArray m_directory;
+    CFileDescriptor m_requests;
+    CFileDescriptor m_root;
+};
+
 class tst_SystemSettings : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void init() { QFile::remove(nativeFile()); }
+    void init();
     void sharedFields_data();
     void sharedFields();
     void segmentsThatAreNone_data();
@@ -87,14 +144,34 @@ private slots:
     void valuesPersist();
     void unchangedValuesAreNotWritten();
     void unwritableStoreIsReported();
+    void foreignThings_data();
+    void foreignThings();
+    void foreignSettingsStay();
+    void fullDisk_data();
+    void fullDisk();
+    void deadDisk();
+    void otherThreads();
+    void endOfTheProcess();
+
+private:
+    int m_threads = 0; // before any store had one of its own
 };
 
 void tst_SystemSettings::initTestCase()
 {
     REQUIRE_INSTRUMENT();
+    m_threads = runningThreads();
     QCoreApplication::setOrganizationName("test"_s);
     QCoreApplication::setApplicationName("systemsettings"_s);
     qRegisterMetaType<S::SystemAttribute>();
+}
+
+void tst_SystemSettings::init()
+{
+    for (const QString& name : {nativeFile(), nativeFile() + ".lock"_s}) {
+        if (!QFile::remove(name))
+            QDir().rmdir(name);
+    }
 }
 
 void tst_SystemSettings::sharedFields_data()
@@ -296,12 +373,182 @@ void tst_SystemSettings::unchangedValuesAreNotWritten()
 void tst_SystemSettings::unwritableStoreIsReported()
 {
     QVERIFY(QDir().mkpath(nativeFile()));
-    const auto cleared = qScopeGuard([] { QDir().rmdir(nativeFile()); });
-    QTest::ignoreMessage(QtWarningMsg, qPrintable("[%1]: Settings can not be stored."_s.arg(nativeFile())));
+    QTest::ignoreMessage(QtWarningMsg, stored("can not be read"));
+    QTest::ignoreMessage(QtWarningMsg, stored("can not be stored"));
+    {
+        Settings settings;
+        settings.setAttribute(S::FileNamePrefix, "here all the same"_s);
+        QCOMPARE(settings.getAttribute(S::FileNamePrefix), QVariant("here all the same"_s));
+    }
+    QVERIFY(QDir(nativeFile()).isEmpty());
+}
+
+void tst_SystemSettings::foreignThings_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<QByteArray>("kind"); // directory, pipe, link (to `content`), huge, else file
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("lock of another host")
+        << ".lock"_s << QByteArray("file") << QByteArray("1\nother\nhost\n");
+    QTest::newRow("empty lock") << ".lock"_s << QByteArray("file") << QByteArray();
+    QTest::newRow("directory as lock") << ".lock"_s << QByteArray("directory") << QByteArray();
+    QTest::newRow("pipe as lock") << ".lock"_s << QByteArray("pipe") << QByteArray();
+    QTest::newRow("dead link as lock") << ".lock"_s << QByteArray("link") << QByteArray("/nowhere/lock");
+    QTest::newRow("pipe") << QString() << QByteArray("pipe") << QByteArray();
+    QTest::newRow("link to itself") << QString() << QByteArray("link") << nativeFile().toUtf8();
+    QTest::newRow("endless") << QString() << QByteArray("link") << QByteArray("/dev/zero");
+    QTest::newRow("50 MB") << QString() << QByteArray("huge") << QByteArray();
+    QTest::newRow("no settings") << QString() << QByteArray("file") << QByteArray("\0\x80[=\n]\n%%\n", 10);
+}
+
+void tst_SystemSettings::foreignThings()
+{
+    QFETCH(QString, suffix);
+    QFETCH(QByteArray, kind);
+    QFETCH(QByteArray, content);
+    const QString name = nativeFile() + suffix;
+    if (kind == "directory")
+        QVERIFY(QDir().mkpath(name));
+    else if (kind == "pipe")
+        QCOMPARE(::mkfifo(qPrintable(name), 0600), 0);
+    else if (kind == "link")
+        QVERIFY(QFile::link(QString::fromUtf8(content), name));
+    else
+        writeFile(name, content);
+    if (kind == "huge")
+        QVERIFY(QFile::resize(name, 50LL * 1000 * 1000)); // sparse
+    struct stat before = {};
+    QCOMPARE(::lstat(qPrintable(name), &before), 0);
+    {
+        Settings settings;
+        settings.setAttribute(S::FileNamePrefix, "kept"_s);
+        QCoreApplication::processEvents();
+        QCOMPARE(settings.getAttribute(S::FileNamePrefix), QVariant("kept"_s));
+    }
+    QCOMPARE(QSettings().value("FileNamePrefix"_s), QVariant("kept"_s));
+    struct stat after = {};
+    if (suffix.isEmpty())
+        QCOMPARE(::stat(qPrintable(name), &after), 0);
+    else
+        QCOMPARE(::lstat(qPrintable(name), &after), 0);
+    QVERIFY(suffix.isEmpty() ? S_ISREG(after.st_mode) : before.st_ino == after.st_ino);
+    if (suffix.isEmpty())
+        QCOMPARE(int(after.st_mode & 07777), 0644);
+}
+
+void tst_SystemSettings::foreignSettingsStay()
+{
+    writeFile(nativeFile(), "[General]\nAudibleAlarm=true\n\n[Another]\nkey=a, b\n");
+    {
+        Settings settings;
+        QCOMPARE(settings.getAttribute(S::AudibleAlarm), QVariant("true"_s));
+        // Another program writes while this one runs.
+        writeFile(nativeFile(), "[Another]\nkey=a, c\n");
+        settings.setAttribute(S::FileNamePrefix, "mine"_s);
+    }
+    QCOMPARE(QSettings().value("Another/key"_s), QVariant(QStringList{"a"_s, "c"_s}));
+    QCOMPARE(QSettings().value("FileNamePrefix"_s), QVariant("mine"_s));
+}
+
+void tst_SystemSettings::fullDisk_data()
+{
+    QTest::addColumn<bool>("isReal");
+    QTest::newRow("no room on it") << true;
+    QTest::newRow("no room anywhere") << false;
+}
+
+void tst_SystemSettings::fullDisk()
+{
+    QFETCH(bool, isReal);
+    std::unique_ptr<CSmallDisk> disk;
+    if (isReal) {
+        disk = std::make_unique<CSmallDisk>(QFileInfo(nativeFile()).path(), 256);
+        if (!disk->isMounted())
+            QSKIP("This instrument can not mount a small disk.");
+    }
+    {
+        Settings settings;
+        settings.setAttribute(S::UintType, "english"_s);
+    }
+    const QByteArray before = readFile(nativeFile());
+    QVERIFY(before.contains("english"));
     Settings settings;
-    settings.setAttribute(S::FileNamePrefix, "here all the same"_s);
     QCoreApplication::processEvents();
-    QCOMPARE(settings.getAttribute(S::FileNamePrefix), QVariant("here all the same"_s));
+    QTRY_COMPARE(runningThreads(), m_threads);
+    {
+        std::unique_ptr<CFileSizeLimit> limit;
+        if (isReal)
+            disk->fill();
+        else
+            limit = std::make_unique<CFileSizeLimit>(before.size() + 10);
+        QTest::ignoreMessage(QtWarningMsg, stored("can not be stored"));
+        settings.setAttribute(S::FileNamePrefix, QString(5000, QLatin1Char('p')));
+        QCoreApplication::processEvents();
+        QTRY_COMPARE(runningThreads(), m_threads);
+        QCOMPARE(readFile(nativeFile()), before);
+        if (isReal)
+            disk->makeRoom();
+    }
+    // What found no room is stored with what comes next.
+    settings.setAttribute(S::ProDelType, "prompt"_s);
+    QTRY_VERIFY(readFile(nativeFile()).contains("ProDelType=prompt"));
+    QVERIFY(readFile(nativeFile()).contains("ppp"));
+}
+
+void tst_SystemSettings::deadDisk()
+{
+    {
+        const CDeadDisk disk(QFileInfo(nativeFile()).path());
+        if (!disk.isMounted())
+            QSKIP("This instrument can not mount a disk that does not answer.");
+        QTest::ignoreMessage(QtWarningMsg, stored("can not be read in time"));
+        QTest::ignoreMessage(QtWarningMsg, stored("can not be stored in time"));
+        Settings settings;
+        settings.setAttribute(S::FileNamePrefix, "here all the same"_s);
+        QCoreApplication::processEvents();
+        settings.setAttribute(S::ProDelType, "prompt"_s);
+        QCoreApplication::processEvents();
+        QCOMPARE(settings.getAttribute(S::FileNamePrefix), QVariant("here all the same"_s));
+    }
+    QTRY_COMPARE(runningThreads(), m_threads);
+}
+
+void tst_SystemSettings::otherThreads()
+{
+    constexpr int Last = 500;
+    const auto attribute = [](int index) { return static_cast<S::SystemAttribute>(S::ClkSrc0 + index); };
+    {
+        Settings settings;
+        std::vector<std::thread> threads;
+        for (int index = 0; index < 4; ++index) {
+            threads.emplace_back([&settings, attribute, index] {
+                for (int value = 0; value <= Last; ++value)
+                    settings.setAttribute(attribute(index), value);
+            });
+        }
+        for (int value = 0; value <= Last; ++value) {
+            settings.setAttribute(S::SaveScreenMaxNum, value);
+            QCoreApplication::processEvents();
+        }
+        for (std::thread& thread : threads)
+            thread.join();
+    }
+    const Settings settings;
+    for (int index = 0; index < 4; ++index)
+        QCOMPARE(settings.getAttribute(attribute(index)).toInt(), Last);
+    QCOMPARE(settings.getAttribute(S::SaveScreenMaxNum).toInt(), Last);
+}
+
+void tst_SystemSettings::endOfTheProcess()
+{
+    Settings settings;
+    // The last turn of the event loop.
+    QTimer::singleShot(0, &settings, [&settings] {
+        settings.setAttribute(S::FileNamePrefix, "in time"_s);
+        QCoreApplication::quit();
+    });
+    QCoreApplication::exec();
+    QVERIFY(readFile(nativeFile()).contains("FileNamePrefix=in time"));
 }
 
 QTEST_GUILESS_MAIN(tst_SystemSettings)

@@ -4,8 +4,6 @@
 #include "testfiles.h"
 #include "usbdmonitor.h"
 
-#include <QProcess>
-
 #include <csignal>
 #include <memory>
 #include <sys/resource.h>
@@ -111,16 +109,6 @@ private:
     QByteArray m_path;
 };
 
-void simctl(const QStringList& arguments)
-{
-    QCOMPARE(QProcess::execute("simctl"_s, arguments), 0);
-}
-
-int openDescriptors()
-{
-    return QDir("/proc/self/fd"_s).entryList(QDir::Files | QDir::System).size();
-}
-
 long residentPages()
 {
     return readFile("/proc/self/statm"_s).split(' ').value(1).toLong();
@@ -144,6 +132,7 @@ private slots:
     void requests();
     void requestDuringTheHook();
     void usbDaemonAway();
+    void laterUsbRequestCounts();
     void iwconfigOutput_data();
     void iwconfigOutput();
     void stopEndsTheWait();
@@ -166,16 +155,16 @@ void tst_DeviceMonitor::initTestCase()
 
 void tst_DeviceMonitor::cleanup()
 {
-    simctl({"usb"_s, "unplug"_s});
-    simctl({"wifi"_s, "off"_s});
+    QVERIFY(simctl("usb unplug"_s));
+    QVERIFY(simctl("wifi off"_s));
     QFile::remove(QLatin1String(CUsbdMonitor::MountRequest));
     QFile::remove(QLatin1String(CUsbdMonitor::UmountRequest));
 }
 
 void tst_DeviceMonitor::oneCycle()
 {
-    simctl({"wifi"_s, "link"_s, "63"_s});
-    simctl({"usb"_s, "mount"_s});
+    QVERIFY(simctl("wifi link 63"_s));
+    QVERIFY(simctl("usb mount"_s));
     CDeviceMonitor monitor;
     CRecord record(&monitor);
     monitor.runCycle();
@@ -188,14 +177,14 @@ void tst_DeviceMonitor::oneCycle()
     QCOMPARE(record.wifi.mode, "Managed"_s);
     QVERIFY(record.storage.bIsPlugged && record.storage.bIsMounted);
 
-    simctl({"wifi"_s, "idle"_s});
+    QVERIFY(simctl("wifi idle"_s));
     monitor.runCycle();
     QCOMPARE(record.names, AllSignals + AllSignals);
     QVERIFY(record.wifi.bIsPlugged && !record.wifi.bIsConnected);
     QCOMPARE(record.wifi.signalStrength, 0);
     QCOMPARE(record.wifi.bssid, QString());
 
-    simctl({"wifi"_s, "off"_s});
+    QVERIFY(simctl("wifi off"_s));
     monitor.runCycle();
     QVERIFY(!record.wifi.bIsPlugged && !record.wifi.bIsConnected);
     QCOMPARE(record.wifi.mode, QString());
@@ -323,6 +312,19 @@ void tst_DeviceMonitor::usbDaemonAway()
     QVERIFY(QFile::remove(QString::fromLatin1(request)));
 }
 
+void tst_DeviceMonitor::laterUsbRequestCounts()
+{
+    // Asked for while the daemon takes up nothing: it must not find both.
+    const QString requests[]
+        = {QLatin1String(CUsbdMonitor::MountRequest), QLatin1String(CUsbdMonitor::UmountRequest)};
+    CUsbdMonitor monitor;
+    for (const bool mount : {true, false, true}) {
+        monitor.onMountUSBDisk(mount);
+        QCOMPARE(QFile::exists(requests[0]), mount);
+        QCOMPARE(QFile::exists(requests[1]), !mount);
+    }
+}
+
 void tst_DeviceMonitor::iwconfigOutput_data()
 {
     QTest::addColumn<QByteArray>("script");
@@ -397,7 +399,7 @@ void tst_DeviceMonitor::manyCycles()
 {
     SKIP_UNDER_PROOT("so many processes take minutes");
     constexpr int WarmUp = 200;
-    simctl({"wifi"_s, "link"_s, "63"_s});
+    QVERIFY(simctl("wifi link 63"_s));
     const ChildReaper reaper; // after simctl(): it needs the exit status
     std::atomic<int> cycles{0};
     QSemaphore mayGoOn;

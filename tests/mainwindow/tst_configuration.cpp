@@ -1,8 +1,11 @@
+#include "commutils.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
 
+#include "smalldisk.h"
 #include "startup.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
@@ -24,6 +27,12 @@ QByteArray contentOf(const QString& path)
 QByteArray defaultOf(const QString& path)
 {
     return contentOf(QStringLiteral(":/conf/") + QFileInfo(path).fileName());
+}
+
+QString replacedLine(const QString& path, const char* why)
+{
+    return QStringLiteral("[%1]: Configuration is %2, replaced by the built-in default")
+        .arg(path, QString::fromLatin1(why));
 }
 
 void write(const QString& path, const QByteArray& content)
@@ -49,6 +58,8 @@ private slots:
     void badFileIsReplacedAndKept_data();
     void badFileIsReplacedAndKept();
     void directoryInPlaceOfAFileIsMovedAside();
+    void fileThatFillsTheDisk_data();
+    void fileThatFillsTheDisk();
     void readOnlyDirectoryEndsTheRecovery();
     void unusableDirectory();
 };
@@ -103,6 +114,9 @@ void TestConfiguration::badFileIsReplacedAndKept()
 {
     QFETCH(QByteArray, content);
     write(STYLE, content);
+    for (const QString& path : {SETTINGS, RESULT, RESULT_TYPE})
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(replacedLine(path, "missing")));
+    QTest::ignoreMessage(QtWarningMsg, qPrintable(replacedLine(STYLE, "not readable")));
     QVERIFY(initConfiguration());
     QCOMPARE(contentOf(STYLE), defaultOf(STYLE));
     const QString kept = STYLE + QStringLiteral(".rejected");
@@ -122,6 +136,30 @@ void TestConfiguration::directoryInPlaceOfAFileIsMovedAside()
     QVERIFY(initConfiguration());
     QCOMPARE(contentOf(SETTINGS), defaultOf(SETTINGS));
     QCOMPARE(contentOf(SETTINGS + QStringLiteral(".rejected")), QByteArray("broken"));
+}
+
+void TestConfiguration::fileThatFillsTheDisk_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("now") << SETTINGS;
+    QTest::newRow("kept by an earlier start") << SETTINGS + QStringLiteral(".rejected");
+    QTest::newRow("kept of another file") << STYLE + QStringLiteral(".rejected");
+}
+
+void TestConfiguration::fileThatFillsTheDisk()
+{
+    QFETCH(QString, name);
+    const CSmallDisk disk(CONF_DIR, 256);
+    if (!disk.isMounted())
+        QSKIP("This instrument can not mount a small disk.");
+    write(STYLE, defaultOf(STYLE));
+    disk.fill();
+    QVERIFY(QFile::rename(CONF_DIR + QStringLiteral("/filler"), name));
+    QVERIFY(initConfiguration());
+    QCOMPARE(contentOf(SETTINGS), defaultOf(SETTINGS));
+    QVERIFY(!QFile::exists(name) || name == SETTINGS);
+    QVERIFY(!QFile::exists(SETTINGS + QStringLiteral(".rejected")));
+    QVERIFY(CUICommUtils::saveLanguage(LANGUAGE_GERMAN)); // there is room to go on
 }
 
 void TestConfiguration::readOnlyDirectoryEndsTheRecovery()

@@ -5,10 +5,13 @@
 #include "systemsettingsmenu.h"
 #include "widgets/entrywidget/entrywidget.h"
 
+#include <QDir>
+#include <QSignalSpy>
 #include <QTimer>
 
 #include <atomic>
 #include <thread>
+#include <utility>
 
 #include "boxanswer.h"
 #include "drivenwindow.h"
@@ -17,6 +20,75 @@
 namespace {
 
 constexpr qint64 LAUNCH_BLOCK = 1900; // ms; the launch stands still for two seconds
+
+/** The tool box from the top: text, utility, picture. */
+const char TOOL_BOX[] = R"(
+Tools|-1|LEFT_Tools_ntb
+IP Tools|65537|LEFT_Tools_IP
+Net Wiz|65538|LEFT_Tools_Netwiz
+WiFi Wiz|65539|LEFT_Tools_WiFiWiz
+Advanced|65540|LEFT_Tools_AdvTools
+Utilities|-1|LEFT_Utilities_ntb
+Settings|65542|LEFT_Utilities_Settings
+Backlight|65544|LEFT_Utilities_Backlight
+Harbor|65565|LEFT_Utilities_Harbor
+Files|-1|LEFT_Folder_ntb
+Saved|65545|LEFT_Files_ntb
+USB|65546|LEFT_Folder_USBDBrowse
+Capture|65568|LEFT_Tools_AdvTools
+)";
+
+/** The tiles of the pages, row by row: text, utility, picture, colour. */
+const char TILES[] = R"(
+Fiber Scope|65550|MAIN_FSCOPE_ntb|7
+Data Card|65553|MAIN_DcardGPS_ntb|1
+WiFi SA|65551|MAIN_WiFISA_ntb|10
+Optical Power Meter|65555|MAIN_FSCOPE_ntb|1
+WiFi InSSIDer|65567|MAIN_WiFIinSSIDer_ntb|4
+About|65556|MAIN_Utilities_About_ntb|1
+Backlight|65544|MAIN_Utilities_Backlight_ntb|5
+Remote Access|65562|MAIN_Utilitites_RemoteCtrl_ntb|1
+Global|65560|MAIN_Utilitites_Global_ntb|4
+Power|65559|MAIN_Utilitites_Power_ntb|2
+Date & Time|65561|MAIN_Utilitites_DateTime_ntb|1
+High Precision Clock Source|65552|MAIN_Utilitites_PrecClock_ntb|1
+High Precision Clock Source|65552|MAIN_Utilitites_PrecClock_ntb|1
+)";
+
+/** Whether all that the picture covers wholly is seen in the left part of the widget. */
+bool shows(const QImage& widget, const QImage& picture, const QPoint& at)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qAlpha(picture.pixel(x, y)) == 255
+                && widget.pixel(x + at.x(), y + at.y()) != picture.pixel(x, y))
+                return false;
+        }
+    }
+    return true;
+}
+
+/** The picture that a row or tile shows, without ".png". */
+QString pictureIn(QWidget* widget, const QString& names)
+{
+    const QImage look = widget->grab().toImage();
+    QString best;
+    int covered = 0;
+    for (const QString& name : QDir(":/images"_s).entryList({names})) {
+        const QImage picture = QImage(":/images/"_s + name).convertToFormat(QImage::Format_ARGB32);
+        const int y = (look.height() - picture.height()) / 2;
+        int opaque = 0;
+        for (int pixel = 0; pixel < picture.width() * picture.height(); ++pixel)
+            opaque += qAlpha(picture.pixel(pixel % picture.width(), pixel / picture.width())) == 255;
+        for (int x = 0; x < 40 && opaque > covered && y >= 0; ++x) {
+            if (shows(look, picture, {x, y})) {
+                best = name.section("."_s, 0, 0);
+                covered = opaque;
+            }
+        }
+    }
+    return best;
+}
 
 } // namespace
 
@@ -32,6 +104,7 @@ private slots:
 
     void firstFrameIsOnTheScreenBeforeTheLaunchBlocks();
 
+    void everyEntryLeadsWhereItSays();
     void menuItemsAndCaption();
     void menuTileOffersClose();
     void closeStepsBackThroughThePath();
@@ -98,6 +171,36 @@ void TestMainWindow::firstFrameIsOnTheScreenBeforeTheLaunchBlocks()
     QVERIFY(m_shownAt >= 0);
     QVERIFY2(m_shownAt < m_blockedAt + LAUNCH_BLOCK / 2,
         qPrintable(QStringLiteral("shown at %1 ms, blocked from %2 ms").arg(m_shownAt).arg(m_blockedAt)));
+}
+
+void TestMainWindow::everyEntryLeadsWhereItSays()
+{
+    QStringList rows;
+    for (auto* row : m_window->findChildren<CToolBoxButton*>())
+        rows << "%1|%2|%3"_s.arg(row->text()).arg(row->id()).arg(pictureIn(row, "LEFT_*"_s));
+    QCOMPARE(rows, QString::fromLatin1(TOOL_BOX).split("\n"_s, Qt::SkipEmptyParts));
+
+    CSigTransfer relay; // these pages lead nowhere
+    CSigTransfer* const own = std::exchange(g_pSigTransfer, &relay);
+    CAdvanceMenu advanced(nullptr);
+    CSystemSettingsMenu settings(nullptr);
+    CSettingMoreMenu more(nullptr);
+    g_pSigTransfer = own;
+    QSignalSpy asked(&relay, &CSigTransfer::currentUtilChanged);
+    QStringList tiles;
+    for (CEntryMenu* menu : std::initializer_list<CEntryMenu*>{&advanced, &settings, &more}) {
+        for (int place = 0; place < 8; ++place) {
+            CEntryItem* tile = menu->findChild<CEntryWidget*>()->itemAt(place / 2, place % 2);
+            if (!tile)
+                continue;
+            tile->click();
+            tiles << "%1|%2|%3|%4"_s.arg(tile->label().simplified())
+                         .arg(asked.takeLast().first().toInt())
+                         .arg(pictureIn(tile, "MAIN_*"_s))
+                         .arg(tile->colorType());
+        }
+    }
+    QCOMPARE(tiles, QString::fromLatin1(TILES).split("\n"_s, Qt::SkipEmptyParts));
 }
 
 void TestMainWindow::menuItemsAndCaption()
@@ -179,6 +282,9 @@ void TestMainWindow::usbWithoutDriveGoesHome()
     choose(UTILITY_ID_USB_BROWSER);
     QCOMPARE(box.title(), QStringLiteral("Error"));
     QCOMPARE(box.text(), QStringLiteral("Cannot find USB drive attached to the unit!"));
+    const CMessageBox own(box.title(), box.text(), CMessageBox::Ok); // with the air that the library gives it
+    QCOMPARE(box.geometry().size(), own.size());
+    QCOMPARE(box.geometry().topLeft(), QPoint(160 + 320 - own.width() / 2 + 4, 60 + 200 - own.height() / 2));
     QVERIFY(page<CHomePage>()->isVisible());
     QVERIFY(!homeShown());
 }

@@ -11,6 +11,7 @@
 
 #include "boxanswer.h"
 #include "drivenwindow.h"
+#include "infopage.h"
 #include "withdialog.h"
 #include "xscreen.h"
 
@@ -365,6 +366,15 @@ void TestSwitching::switchOverlay()
 
 void TestSwitching::missingLibraryShowsTheLoadersText()
 {
+    {
+        // The loader's own words, too, are in the user's language.
+        CBoxAnswer german("ok");
+        const CShellLanguage spoken(LANGUAGE_GERMAN);
+        QVERIFY(spoken.isLoaded());
+        choose(UTILITY_ID_NET_WIZARD);
+        QTRY_COMPARE(german.text(), QStringLiteral("Die Bibliothek wurde nicht gefunden."));
+        m_window->triggerHome();
+    }
     {
         CBoxAnswer none("ok"); // one without a library, whose error must not stay for the next
         m_window->changeCurrentUtil(UTILITY_ID_TOOLS);

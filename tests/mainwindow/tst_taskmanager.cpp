@@ -2,8 +2,11 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -31,12 +34,15 @@ private slots:
     void sessionCount_data();
     void sessionCount();
     void directoryChangeReportsTheCount();
+    void pipeInPlaceOfTheMark();
+    void directoryThatComesAgain_data();
+    void directoryThatComesAgain();
 };
 
 void TestTaskManager::init()
 {
+    QDir(MARK_DIR).removeRecursively();
     QDir().mkpath(MARK_DIR);
-    QFile::remove(MARK_FILE);
 }
 
 void TestTaskManager::startsOneUtility()
@@ -117,6 +123,65 @@ void TestTaskManager::directoryChangeReportsTheCount()
     QTRY_VERIFY(!changed.isEmpty() && changed.last().at(0).toInt() == 1);
     QFile::remove(MARK_FILE);
     QTRY_COMPARE(changed.last().at(0).toInt(), 0);
+}
+
+void TestTaskManager::pipeInPlaceOfTheMark()
+{
+    CTaskManager manager(nullptr);
+    writeMark("2\n");
+    QVERIFY(manager.isVNCClientAttached());
+    QVERIFY(QFile::remove(MARK_FILE));
+    QCOMPARE(::mkfifo(qPrintable(MARK_FILE), 0600), 0);
+    QVERIFY(manager.isVNCClientAttached()); // cannot be told: as before
+    QSignalSpy changed(&manager, &CTaskManager::vncSessionChanged);
+    manager.dirChanged(MARK_DIR);
+    QCOMPARE(changed, (QList<QList<QVariant>>{{0}}));
+}
+
+void TestTaskManager::directoryThatComesAgain_data()
+{
+    QTest::addColumn<QString>("gone");
+    QTest::addColumn<bool>("isMoved");
+    QTest::newRow("itself") << MARK_DIR << false;
+    QTest::newRow("with its parent") << QStringLiteral("/tmp/var/lib") << false;
+    QTest::newRow("with all that is below /tmp") << QStringLiteral("/tmp/var") << false;
+    QTest::newRow("moved away") << MARK_DIR << true;
+    QTest::newRow("moved away with its parents") << QStringLiteral("/tmp/var") << true;
+}
+
+void TestTaskManager::directoryThatComesAgain()
+{
+    QFETCH(QString, gone);
+    QFETCH(bool, isMoved);
+    writeMark("3\n");
+    CTaskManager manager(nullptr);
+    QVERIFY(manager.isVNCClientAttached());
+    QSignalSpy changed(&manager, &CTaskManager::vncSessionChanged);
+    const auto count = [&changed] { return changed.isEmpty() ? -1 : changed.last().at(0).toInt(); };
+    const QString aside = QStringLiteral("/tmp/aside");
+    const auto cleared = qScopeGuard([&aside] { QDir(aside).removeRecursively(); });
+    for (int round = 0; round < 2; ++round) {
+        if (isMoved) {
+            QDir(aside).removeRecursively();
+            QVERIFY(QFile::rename(gone, aside));
+        } else {
+            QVERIFY(QDir(gone).removeRecursively());
+        }
+        QTRY_COMPARE(count(), 0);
+        QVERIFY(QDir().mkpath(MARK_DIR));
+        QCoreApplication::processEvents(); // sometimes it finds the empty directory first
+        writeMark("1\n");
+        QTRY_COMPARE(count(), 1);
+        // At once, before anybody has looked.
+        QVERIFY(QDir(gone).removeRecursively());
+        QVERIFY(QDir().mkpath(MARK_DIR));
+        writeMark("4\n");
+        QTRY_COMPARE(count(), 4);
+        QFile::remove(MARK_FILE);
+        QTRY_COMPARE(count(), 0);
+        writeMark("5\n");
+        QTRY_COMPARE(count(), 5);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestTaskManager)

@@ -1,5 +1,6 @@
 #include "fixtureplugins.h"
 #include "pluginman.h"
+#include "testfiles.h"
 #include "utilinterface.h"
 
 #include <QDir>
@@ -36,8 +37,7 @@ class TestPluginManager : public QObject
 
 private slots:
     void init();
-    void utilities_data();
-    void utilities();
+    void missingOnesAreTold();
     void drivesTheCurrentPlugin();
     void noInterface();
     void unusableFile_data();
@@ -60,55 +60,14 @@ void TestPluginManager::init()
     clearPluginCalls();
 }
 
-void TestPluginManager::utilities_data()
+void TestPluginManager::missingOnesAreTold()
 {
-    QTest::addColumn<int>("id");
-    QTest::addColumn<QString>("library"); // empty: none
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isPlugin");
-    QTest::addColumn<bool>("isReleased");
-    const struct
-    {
-        int id;
-        const char* library;
-        const char* name;
-        bool isPlugin;
-        bool isReleased;
-    } rows[] = {
-        {UTILITY_ID_BEGIN, "", "", false, true},
-        {UTILITY_ID_TOOLS, "", "", true, true}, // in neither list
-        {UTILITY_ID_IP_TOOLS, "libIPtool.so", "IP Tools", true, true},
-        {UTILITY_ID_ADVTOOL, "", "", false, true},
-        {UTILITY_ID_BROWSER, "libwebbrowser.so", "Web Browser", true, true},
-        {UTILITY_ID_NETWORK, "", "", true, false},
-        {UTILITY_ID_SCOPEX, "", "", true, false},
-        {UTILITY_ID_DATACARD_GPS, "libhighPrecisionClockSource.so", "", true, false},
-        {UTILITY_ID_DATACARD_3G, "libdataCard.so", "", true, true},
-        {UTILITY_ID_OSTREL, "libostrel.so", "ostrel", true, true},
-        {UTILITY_ID_WIFI_INSSDER, "libwifiinssider.so", "WIFI inSSIDer", true, true},
-        {UTILITY_ID_DATE_TIME, "libdateTime.so", "Date & Time Settings", true, true},
-        {UTILITY_ID_USB_BROWSER, "", "", false, true},
-        {UTILITY_ID_END, "", "", false, true},
-    };
-    for (const auto& row : rows)
-        QTest::addRow("%d", row.id) << row.id << QString::fromLatin1(row.library)
-                                    << QString::fromLatin1(row.name) << row.isPlugin << row.isReleased;
-}
-
-void TestPluginManager::utilities()
-{
-    QFETCH(int, id);
-    QFETCH(QString, library);
     CPluginManager manager;
-    const auto util = UtilityID(id);
-    QCOMPARE(manager.getPluginFileName(util), library.isEmpty() ? QString() : PLUGIN_DIR + library);
-    QTEST(manager.getPluginName(util), "name");
-    QTEST(manager.isPlugin(util), "isPlugin");
-    QTEST(manager.isPluginReleased(util), "isReleased");
-    QCOMPARE(manager.hasSubPlugin(util), id == UTILITY_ID_ADVTOOL);
-    QVERIFY(!manager.loadPlugin(util));
-    QCOMPARE(manager.errorString() == QStringLiteral("Invalid plugin ID."), library.isEmpty());
-    QVERIFY(!manager.errorString().isEmpty());
+    QVERIFY(!manager.loadPlugin(UTILITY_ID_ADVTOOL)); // has a page of the shell's
+    QCOMPARE(manager.errorString(), QStringLiteral("Invalid plugin ID."));
+    manager.clearError();
+    QVERIFY(!manager.loadPlugin(UTILITY_ID_HARBOR)); // is not installed
+    QCOMPARE(manager.errorString(), QStringLiteral("The shared library was not found."));
 }
 
 void TestPluginManager::drivesTheCurrentPlugin()
@@ -208,17 +167,16 @@ void TestPluginManager::manyLoadsKeepTheDescriptors()
 {
     installFixture("libfixture_recorder.so", QStringLiteral("libharbor.so"));
     installFixture("libfixture_failstart.so", QStringLiteral("libOpm.so"));
-    const auto descriptors = [] { return QDir(QStringLiteral("/proc/self/fd")).count(); };
     CPluginManager manager;
     QVERIFY(manager.loadPlugin(UTILITY_ID_HARBOR));
     QVERIFY(manager.loadPlugin(UTILITY_ID_OPM));
-    const auto before = descriptors();
+    const auto before = openDescriptors();
     for (int i = 0; i < 100; ++i) {
         QVERIFY(manager.loadPlugin(UTILITY_ID_HARBOR));
         QVERIFY(manager.loadPlugin(UTILITY_ID_OPM));
         QVERIFY(!manager.loadPlugin(UTILITY_ID_VFL));
     }
-    QCOMPARE(descriptors(), before);
+    QCOMPARE(openDescriptors(), before);
 }
 
 void TestPluginManager::whatAPluginThrowsEndsHere_data()

@@ -15,6 +15,7 @@
 #include <QWidget>
 
 #include "boxanswer.h"
+#include "testfiles.h"
 
 namespace {
 
@@ -48,11 +49,6 @@ QString pingRefusal()
         : QStringLiteral("ping is refused: ") + QString::fromUtf8(ping.readAll()).simplified();
 }
 
-int descriptors()
-{
-    return int(QDir(QStringLiteral("/proc/self/fd")).count());
-}
-
 } // namespace
 
 #define NEEDS_PING()                                                                                         \
@@ -78,6 +74,8 @@ private slots:
     void backgroundRunOutlivesThePage();
     void windowMayGoFirst();
     void nothingIsLeftWhenTheShellDies();
+    void longLinesGoOnInTheNextRow();
+    void whatIsReadStaysInView_data();
     void whatIsReadStaysInView();
 
 private:
@@ -160,7 +158,7 @@ void TestIpTools::badAddressIsRefused()
 void TestIpTools::pingIsLiveAndStops()
 {
     NEEDS_PING();
-    const int before = descriptors();
+    const int before = openDescriptors();
     QVERIFY(m_plugin->start(&m_host));
     enter("127.0.0.1");
     auto* output = part<QWidget>("output");
@@ -176,7 +174,7 @@ void TestIpTools::pingIsLiveAndStops()
     QTRY_VERIFY(running("ping").isEmpty());
     QVERIFY(m_plugin->stop());
     QVERIFY(!m_plugin->bIsStarted);
-    QTRY_COMPARE(descriptors(), before);
+    QCOMPARE(openDescriptors(), before);
 }
 
 void TestIpTools::traceEndsByItself()
@@ -203,7 +201,7 @@ void TestIpTools::leavingThePageEndsTheRun()
 void TestIpTools::backgroundRunOutlivesThePage()
 {
     NEEDS_PING();
-    const int before = descriptors();
+    const int before = openDescriptors();
     QVERIFY(m_plugin->start(&m_host));
     part<CCheckBox>("background")->setChecked(true);
     enter("127.0.0.1");
@@ -221,7 +219,7 @@ void TestIpTools::backgroundRunOutlivesThePage()
 
     m_plugin->terminate();
     QTRY_VERIFY(running("ping").isEmpty());
-    QTRY_COMPARE(descriptors(), before);
+    QTRY_COMPARE(openDescriptors(), before);
 }
 
 void TestIpTools::windowMayGoFirst()
@@ -245,15 +243,41 @@ void TestIpTools::nothingIsLeftWhenTheShellDies()
     QTRY_VERIFY(running("ping").isEmpty());
 }
 
+void TestIpTools::longLinesGoOnInTheNextRow()
+{
+    COutputView view(nullptr);
+    view.resize(400, 200);
+    view.show();
+    const auto look = [&view](const QStringList& lines) {
+        view.setLines(lines, lines.size());
+        return view.grab().toImage();
+    };
+    const QString begin = QStringLiteral("From 192.0.2.1 ").repeated(8), end = QStringLiteral("unreachable");
+    QVERIFY(look({begin + end}) != look({begin}));
+    QVERIFY(look({begin + end, end}) != look({begin + end}));
+    view.setLines(QStringList(begin + end), 1);
+    QVERIFY(!view.canScrollBack());
+    view.resize(60, 200); // a word a row: too high now
+    QVERIFY(view.canScrollBack());
+}
+
+void TestIpTools::whatIsReadStaysInView_data()
+{
+    QTest::addColumn<int>("repeats");
+    QTest::newRow("short lines") << 1;
+    QTest::newRow("long lines") << 20;
+}
+
 void TestIpTools::whatIsReadStaysInView()
 {
+    QFETCH(int, repeats);
     constexpr int limit = 500;
     COutputView view(nullptr);
     view.resize(400, 200);
     QStringList lines;
     int total = 0;
     const auto add = [&] {
-        lines << QStringLiteral("line %1").arg(++total);
+        lines << QStringLiteral("line %1 ").arg(++total).repeated(repeats);
         if (lines.size() > limit)
             lines.removeFirst();
         view.setLines(lines, total);

@@ -13,73 +13,79 @@ using R = CResourceMan;
 
 namespace {
 
-/** A getter's result beside the rectangle of the strip that it must show; a null rectangle: no picture. */
-struct SliceCase
+/** The states of a strip in the order of their numbers, the last one a number that is none. */
+struct Strip
 {
-    const char* what;
-    QPixmap (*get)();
-    const char* strip;
-    QRect rect;
+    const char* name;
+    QPixmap (*get)(int state);
+    QSize size;
+    QVector<QPoint> places; // left and top in the strip; `none` for no picture
+    QHash<int, int> wider = {}; // pixels by which a state is
 };
 
-const QRect none;
+const QPoint none(-1, -1);
+constexpr QSize button(60, 60), small(20, 20);
 
-const SliceCase sliceCases[] = {
-    {"home press", [] { return R::getHomeStatus(R::HomePress); }, "TB_HOME_3states", {60, 0, 60, 60}},
-    {"home other", [] { return R::getHomeStatus(R::HomeStatus(-1)); }, "TB_HOME_3states", {0, 0, 60, 60}},
-    {"close select", [] { return R::getCloseStatus(R::CloseSelect); }, "TB_close_3states", {120, 0, 60, 60}},
-    {"battery select", [] { return R::getBatteryStatus(R::BAT_EMPTY_DISCHARGED).icoSelect; },
-        "TB_BATT_12states", {120, 660, 60, 60}},
-    {"battery by level", [] { return R::getBatteryStatus(50, 100, true).icoNormal; }, "TB_BATT_12states",
-        {0, 300, 60, 60}},
-    {"battery above", [] { return R::getBatteryStatus(R::BatteryStatus(12)).icoNormal; }, "TB_BATT_12states",
-        {0, 0, 60, 60}},
-    {"usb 100", [] { return R::getStorageStatus(R::USB_DISK_USED_RATIO_100).icoPress; }, "TB_STORAGE_8states",
-        {60, 420, 60, 60}},
-    {"disk 75", [] { return R::getStorageStatus(R::DISK_USED_RATIO_75).icoSelect; }, "TB_STORAGE_8states",
-        {120, 240, 60, 60}},
-    {"usb 25", [] { return R::getStorageStatus(R::USB_DISK_USED_RATIO_25).icoNormal; }, "TB_STORAGE_8states",
-        {0, 60, 60, 60}},
-    {"disk 0", [] { return R::getStorageStatus(R::DISK_USED_RATIO_0).icoNormal; }, "TB_STORAGE_8states",
-        {0, 0, 60, 60}},
-    {"storage other", [] { return R::getStorageStatus(R::StorageStatus(10)).icoNormal; },
-        "TB_STORAGE_8states", {0, 0, 60, 60}},
-    {"storage by level", [] { return R::getStorageStatus(76, 100, true).icoNormal; }, "TB_STORAGE_8states",
-        {0, 420, 60, 60}},
-    {"app focus", [] { return R::getAppStatus(R::AppFocus); }, "app_status-280X180", {140, 0, 70, 60}},
-    {"app no module", [] { return R::getAppStatus(R::AppNoModule); }, "app_status-280X180", {210, 0, 70, 60}},
-    {"app ok push", [] { return R::getAppStatus(R::AppOKPush); }, "app_status-280X180", {70, 120, 70, 60}},
-    {"app remote", [] { return R::getAppStatus(R::AppRemote); }, "app_status-280X180", none},
-    {"app other", [] { return R::getAppStatus(R::AppStatus(9)); }, "app_status-280X180", {0, 0, 70, 60}},
-    {"port 1", [] { return R::getPortStatus(R::PortStatus1); }, "BB_PORTBTN_3states", {1, 1, 139, 17}},
-    {"port 3", [] { return R::getPortStatus(R::PortStatus3); }, "BB_PORTBTN_3states", {281, 1, 138, 17}},
-    {"folder locked", [] { return R::getFolderStatus(R::FolderLocked); }, "Lock_status", {0, 0, 48, 48}},
-    {"folder other", [] { return R::getFolderStatus(R::FolderStatus(3)); }, "folder-blue", {0, 0, 48, 48}},
-    {"lock icon closed", [] { return R::getUIStatus(R::UILocked).pixmap(44); }, "TB_DIG_LOCK_2states",
-        {44, 0, 44, 44}},
-    {"locked", [] { return R::getSystemUIStatus(R::SysStsUILocked); }, "status-TB_lock", {20, 0, 20, 20}},
-    {"lock other", [] { return R::getSystemUIStatus(R::SystemUIStatus(2)); }, "status-TB_lock", none},
-    {"ip on", [] { return R::getSystemIPStatus(R::SysStsIPOn); }, "BB_ManNET_2states", {0, 20, 20, 20}},
-    {"cli off", [] { return R::getSystemCLIStatus(R::SysStsCLIOff); }, "BB_CLIAcc_2states", {0, 0, 20, 20}},
-    {"bluetooth off", [] { return R::getSystemBluetoothStatus(R::SysStsBluetoothOff); },
-        "status-TB_bluetooth", {20, 0, 20, 20}},
-    {"gps poor", [] { return R::getSystemGPSStatus(SysStsGPSOnPoor); }, "status-TB_GPS", {20, 0, 22, 20}},
-    {"gps no sync", [] { return R::getSystemGPSStatus(SysStsGPSNoSync); }, "status-TB_GPS", {40, 0, 20, 20}},
-    {"card idle", [] { return R::getSystemDataCardStatus(SysStsDataCardNotConnected); }, "MAIN_DataCard_ntb",
-        {22, 0, 22, 22}},
-    {"card off", [] { return R::getSystemDataCardStatus(SysStsDataCardOff); }, "MAIN_DataCard_ntb", none},
-    {"help other", [] { return R::getSystemHelpStatus(R::SystemHelpStatus(1)); }, "status-TB_help", none},
-    {"clock off", [] { return R::getSystemAtomicClockStatus(R::SysStsAtomicClockOff); },
-        "status-TB_atomic-clock", {20, 0, 20, 20}},
-    {"opm off", [] { return R::getSystemOPMStatus(R::SysStsOPMOff); }, "status-TB_OPM", {40, 0, 20, 20}},
-    {"usb invalid", [] { return R::getSystemUSBDiskStatus(R::SysStsUSBDiskInvalid); }, "status-TB_USB-disk",
-        {20, 0, 20, 20}},
-    {"wifi no link", [] { return R::getSystemWIFIStatus(R::SysStsWIFIONNoLink); }, "status-TB_Wifi",
-        {20, 0, 20, 20}},
-    {"wifi other", [] { return R::getSystemWIFIStatus(R::SystemWIFIStatus(3)); }, "status-TB_Wifi", none},
-    {"small battery", [] { return R::getSystemBatteryStatus(R::BAT_EMPTY_DISCHARGED); }, "status-TB_battery",
-        {220, 0, 20, 20}},
+template <typename State, QPixmap (*get)(State)> QPixmap of(int state)
+{
+    return get(State(state));
+}
+
+const Strip strips[] = {
+    {"TB_HOME_3states", of<R::HomeStatus, R::getHomeStatus>, button, {{60, 0}, {0, 0}, {120, 0}, {0, 0}}},
+    {"TB_close_3states", of<R::CloseStatus, R::getCloseStatus>, button, {{60, 0}, {0, 0}, {120, 0}, {0, 0}}},
+    {"app_status-280X180", of<R::AppStatus, R::getAppStatus>, {70, 60},
+        {{0, 0}, {70, 0}, {0, 120}, {70, 120}, {0, 60}, {70, 60}, {140, 0}, {210, 0}, none, {0, 0}}},
+    {"BB_PORTBTN_3states", of<R::PortStatus, R::getPortStatus>, {138, 17},
+        {{1, 1}, {141, 1}, {281, 1}, {1, 1}}, {{0, 1}, {3, 1}}},
+    {"TB_DIG_LOCK_2states", [](int state) { return R::getUIStatus(R::UIStatus(state)).pixmap(44); }, {44, 44},
+        {{0, 0}, {44, 0}, {0, 0}}},
+    {"status-TB_lock", of<R::SystemUIStatus, R::getSystemUIStatus>, small, {{20, 0}, {0, 0}, none}},
+    {"BB_ManNET_2states", of<R::SystemIPStatus, R::getSystemIPStatus>, small, {{0, 20}, {0, 0}, none}},
+    {"BB_CLIAcc_2states", of<R::SystemCLIStatus, R::getSystemCLIStatus>, small, {{0, 20}, {0, 0}, none}},
+    {"status-TB_bluetooth", of<R::SystemBluetoothStatus, R::getSystemBluetoothStatus>, small,
+        {{0, 0}, {20, 0}, none}},
+    {"status-TB_GPS", of<SystemGPSStatus, R::getSystemGPSStatus>, small,
+        {{0, 0}, {20, 0}, {40, 0}, {60, 0}, none}, {{1, 2}}},
+    {"MAIN_DataCard_ntb", of<SystemDataCardStatus, R::getSystemDataCardStatus>, {22, 22},
+        {{0, 0}, {22, 0}, none}},
+    {"status-TB_help", of<R::SystemHelpStatus, R::getSystemHelpStatus>, {22, 22}, {{0, 0}, none}},
+    {"status-TB_atomic-clock", of<R::SystemAtomicClockStatus, R::getSystemAtomicClockStatus>, small,
+        {{0, 0}, {20, 0}, {20, 0}, none}},
+    {"status-TB_OPM", of<R::SystemOPMStatus, R::getSystemOPMStatus>, small, {{0, 0}, {20, 0}, {40, 0}, none}},
+    {"status-TB_USB-disk", of<R::SystemUSBDiskStatus, R::getSystemUSBDiskStatus>, small,
+        {{0, 0}, {20, 0}, none}},
+    {"status-TB_Wifi", of<R::SystemWIFIStatus, R::getSystemWIFIStatus>, small,
+        {{0, 0}, {20, 0}, {40, 0}, none}},
+    {"status-TB_battery", of<R::BatteryStatus, R::getSystemBatteryStatus>, small,
+        {{0, 0}, {20, 0}, {40, 0}, {60, 0}, {80, 0}, {100, 0}, {120, 0}, {140, 0}, {160, 0}, {180, 0},
+            {200, 0}, {220, 0}, {0, 0}}},
 };
+
+/** The tops of the rows that the touch buttons of the states show: released, pressed, selected. */
+struct ButtonStrip
+{
+    const char* name;
+    R::IconStatus (*get)(int state);
+    QVector<int> tops;
+};
+
+const ButtonStrip buttonStrips[] = {
+    {"TB_BATT_12states", [](int state) { return R::getBatteryStatus(R::BatteryStatus(state)); },
+        {0, 60, 120, 180, 240, 300, 360, 420, 480, 540, 600, 660, 0}},
+    {"TB_STORAGE_8states", [](int state) { return R::getStorageStatus(R::StorageStatus(state)); },
+        {360, 420, 240, 300, 120, 180, 0, 60, 0, 60, 0}},
+};
+
+QImage plain(const QImage& image)
+{
+    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+QImage strip(const char* name)
+{
+    return plain(QImage(QStringLiteral(":/images/%1.png").arg(QString::fromLatin1(name))));
+}
 
 using Addresses = QVector<CResourceMan::InterfaceAddress>;
 
@@ -97,28 +103,47 @@ class TestResourceMan : public QObject
     Q_OBJECT
 
 private slots:
-    void slices_data()
+    void everyStateShowsItsPart()
     {
-        QTest::addColumn<int>("index");
-        int index = 0;
-        for (const SliceCase& item : sliceCases)
-            QTest::newRow(item.what) << index++;
+        for (const Strip& each : strips) {
+            const QImage whole = strip(each.name);
+            for (int state = 0; state < each.places.size(); ++state) {
+                const QImage shown = plain(each.get(state).toImage());
+                const QByteArray what = each.name + QByteArray(" ") + QByteArray::number(state);
+                QVERIFY2(shown.isNull() == (each.places[state] == none), what);
+                if (shown.isNull())
+                    continue;
+                const QRect part(each.places[state], each.size + QSize(each.wider.value(state), 0));
+                QVERIFY2(whole.rect().contains(part) && shown == whole.copy(part), what);
+            }
+        }
+        for (const ButtonStrip& each : buttonStrips) {
+            const QImage whole = strip(each.name);
+            for (int state = 0; state < each.tops.size(); ++state) {
+                const R::IconStatus icons = each.get(state);
+                int left = 0;
+                for (const QPixmap& shown : {icons.icoNormal, icons.icoPress, icons.icoSelect}) {
+                    QVERIFY2(plain(shown.toImage()) == whole.copy(left, each.tops[state], 60, 60), each.name);
+                    left += 60;
+                }
+            }
+        }
     }
 
-    void slices()
+    void otherPictures()
     {
-        QFETCH(int, index);
-        const SliceCase& item = sliceCases[index];
-        const QPixmap picture = item.get();
-        if (item.rect.isNull()) {
-            QVERIFY(picture.isNull());
-            return;
-        }
-        const QImage strip(QStringLiteral(":/images/%1.png").arg(QString::fromLatin1(item.strip)));
-        QVERIFY(strip.rect().contains(item.rect));
-        const auto plain
-            = [](const QImage& image) { return image.convertToFormat(QImage::Format_ARGB32_Premultiplied); };
-        QCOMPARE(plain(picture.toImage()), plain(strip.copy(item.rect)));
+        const char* folders[] = {"folder-blue", "Lock_status", "Unlock_status", "folder-blue"};
+        for (int state = 0; state < 4; ++state)
+            QCOMPARE(plain(R::getFolderStatus(R::FolderStatus(state)).toImage()), strip(folders[state]));
+        QStringList colors;
+        for (int code = 0; R::getColor(R::ColorCode(code)).isValid(); ++code)
+            colors << R::getColor(R::ColorCode(code)).name();
+        QCOMPARE(colors.join(QLatin1Char(' ')),
+            QStringLiteral("#635e80 #777777 #777777 #b5c7e8 #b0b0b0 #000000 #ffffff #a0a0a4"));
+        QCOMPARE(R::getBatteryStatus(50, 100, true).icoNormal.toImage(),
+            R::getBatteryStatus(R::BAT_50PER_DISCHARGED).icoNormal.toImage());
+        QCOMPARE(R::getStorageStatus(76, 100, true).icoNormal.toImage(),
+            R::getStorageStatus(R::USB_DISK_USED_RATIO_100).icoNormal.toImage());
     }
 
     void batteryLevel_data()

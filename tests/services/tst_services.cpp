@@ -2,6 +2,7 @@
 #include "services/langswitchserv.h"
 #include "services/processutils.h"
 #include "services/sysfailureserv.h"
+#include "testfiles.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -13,6 +14,7 @@
 #include <pthread.h>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -34,11 +36,6 @@ void countWaits(QtMsgType type, const QMessageLogContext& context, const QString
     if (text.contains(QStringLiteral("no answer in")))
         ++s_waits;
     s_next(type, context, text);
-}
-
-bool simctl(const QString& line)
-{
-    return QProcess::execute(QStringLiteral("simctl"), line.split(QLatin1Char(' '))) == 0;
 }
 
 bool ask(CBusLink& link, QString* text = nullptr)
@@ -71,6 +68,7 @@ private slots:
     void callersOnManyThreads();
     void noRoomForAThread();
     void processExists();
+    void endedProcessDoesNotExist();
 };
 
 // Everything up and fresh, whatever the test before left.
@@ -287,6 +285,28 @@ void TestServices::processExists()
     process.kill();
     QVERIFY(process.waitForFinished());
     QVERIFY(!miscutils::CCommUtils::IsProcessExist(name));
+}
+
+// Its parent has not looked at it yet, so it has its name in the process table.
+void TestServices::endedProcessDoesNotExist()
+{
+    const QByteArray program = "/tmp/wsa) Z"; // a name that looks like a part of the table
+    QVERIFY(QFile::copy(QStringLiteral("/usr/bin/sleep"), QString::fromLatin1(program)));
+    const QString name = QString::fromLatin1(program.mid(5));
+    const pid_t child = fork();
+    if (child == 0) {
+        execl(program.constData(), program.constData(), "1000", nullptr);
+        _exit(1);
+    }
+    QTRY_VERIFY(miscutils::CCommUtils::IsProcessExist(name));
+    QCOMPARE(kill(child, SIGKILL), 0);
+    siginfo_t end = {};
+    QCOMPARE(waitid(P_PID, id_t(child), &end, WEXITED | WNOWAIT), 0);
+    QFile comm(QStringLiteral("/proc/%1/comm").arg(child));
+    QVERIFY(comm.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromLatin1(comm.readAll().trimmed()), name); // still there
+    QVERIFY(!miscutils::CCommUtils::IsProcessExist(name));
+    QCOMPARE(waitpid(child, nullptr, 0), child);
 }
 
 QTEST_GUILESS_MAIN(TestServices)

@@ -8,12 +8,16 @@
 #include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
 
+#include <atomic>
 #include <limits>
+#include <pthread.h>
 
 namespace {
 
@@ -66,9 +70,13 @@ private slots:
     void view_data();
     void view();
     void measuredAsTheSystemDoes();
-    void measuredRecord_data();
-    void measuredRecord();
+    void mountedDriveIsInUseMeasuredOrNot();
     void slowDriveHoldsNobodyUp();
+    void deadStorageStopsOnlyItsOwnFigures_data();
+    void deadStorageStopsOnlyItsOwnFigures();
+    void nextDriveDoesNotWaitForADeadOne();
+    void figuresAreNotThoseOfADriveThatWent();
+    void noThreadNoEnd();
     void meterMayGoFirst();
     void page();
     void usbButton();
@@ -106,6 +114,10 @@ void tst_Storage::view_data()
                                << QStringList{"3"_s, "2"_s, "1"_s, "66 %"_s} << inUse;
     QTest::newRow("empty USB drive") << record(5, 0, true) << QStringList{"5"_s, "5"_s, "0"_s, "100 %"_s}
                                      << QStringList{"0"_s, "0"_s, "0"_s, "0 %"_s} << inUse;
+    const QStringList unknown = {"---"_s, "---"_s, "---"_s, "---"_s};
+    QTest::newRow("USB drive that cannot be measured")
+        << record(1, 1, true, -1, -1) << QStringList{"2"_s, "1"_s, "1"_s, "50 %"_s} << unknown << inUse;
+    QTest::newRow("nothing measured yet") << record(-1, -1) << unknown << none << absent;
     QTest::newRow("largest") << record(Most, Most, true, Most, 0)
                              << QStringList{"4294967294"_s, "2147483647"_s, "2147483647"_s, "50 %"_s}
                              << QStringList{"2147483647"_s, "2147483647"_s, "0"_s, "100 %"_s} << inUse;
@@ -124,106 +136,206 @@ void tst_Storage::view()
 void tst_Storage::measuredAsTheSystemDoes()
 {
     for (const int blockSize : {DiskBlock, USBDriveBlock}) {
-        int used = -1;
-        int avail = -1;
-        QVERIFY(measureCapacity("/home"_s, blockSize, used, avail));
-        QCOMPARE(QStringList({QString::number(used), QString::number(avail)}), df("/home"_s, blockSize));
-        QVERIFY(avail > 0);
+        const StorageCapacity home = measureCapacity("/home"_s, blockSize);
+        QCOMPARE(
+            QStringList({QString::number(home.used), QString::number(home.avail)}), df("/home"_s, blockSize));
+        QVERIFY(home.avail > 0);
     }
-    int used = -1;
-    int avail = -1;
-    QVERIFY(!measureCapacity("/home/nobody/here"_s, DiskBlock, used, avail));
-    QCOMPARE(used, 0);
-    QCOMPARE(avail, 0);
+    const StorageCapacity nowhere = measureCapacity("/home/nobody/here"_s, DiskBlock);
+    QCOMPARE(nowhere.used, UnknownBlocks);
+    QCOMPARE(nowhere.avail, UnknownBlocks);
 }
 
-void tst_Storage::measuredRecord_data()
-{
-    QTest::addColumn<bool>("mounted");
-    QTest::addColumn<QString>("mountPoint");
-    QTest::addColumn<bool>("hasFigures");
-    QTest::newRow("plugged only") << false << "/tmp"_s << false;
-    QTest::newRow("mounted") << true << "/tmp"_s << true;
-    QTest::newRow("gone in the meantime") << true << "/nowhere"_s << false;
-}
-
-/** A drive that answers when it is let. Shared with the measuring thread. */
-struct SlowDrive
+/** A storage that answers when it is let. Shared with the measuring thread. */
+struct SlowStorage
 {
     QSemaphore asked;
     QSemaphore answers;
+    std::atomic<int> used{0};
 };
 
-static CStorageMeter::Measure measureOf(const std::shared_ptr<SlowDrive>& drive)
+static CStorageMeter::Measure measureOf(const std::shared_ptr<SlowStorage>& storage)
 {
-    return [drive](StorageStatus& status) {
-        drive->asked.release();
-        drive->answers.acquire();
-        status.diskUsed = status.bIsMounted ? 2 : 1;
-        status.bIsUSBDPlugged = status.bIsMounted;
-        status.USBDUsed = status.bIsMounted ? 7 : 0;
+    return [storage] {
+        storage->asked.release();
+        storage->answers.acquire();
+        return StorageCapacity{storage->used, 1};
     };
+}
+
+static CStorageMeter::Measure always(int used)
+{
+    return [used] { return StorageCapacity{used, 1}; };
+}
+
+static StorageStatus mountedDrive(bool isMounted = true)
+{
+    StorageStatus status;
+    status.bIsPlugged = true;
+    status.bIsMounted = isMounted;
+    return status;
+}
+
+/** What was told last of the drive, 0 if nothing was. */
+static int lateFigures(const QSignalSpy& measured)
+{
+    return measured.isEmpty() ? 0 : measured.last().at(0).value<StorageStatus>().USBDUsed;
+}
+
+constexpr int LongWait = 60000; // ms, that nobody ever waits
+
+void tst_Storage::mountedDriveIsInUseMeasuredOrNot()
+{
+    QVERIFY(!QFile::exists("/home/usbd/gone"_s));
+    CStorageMeter meter(nullptr, {}, [] { return measureCapacity("/home/usbd/gone"_s, USBDriveBlock); });
+    StorageStatus status = meter.measureWithin(mountedDrive(), LongWait);
+    QVERIFY(status.diskAvail > 0);
+    QVERIFY(status.bIsUSBDPlugged && status.bIsPlugged && status.bIsMounted);
+    QCOMPARE(status.USBDUsed, UnknownBlocks);
+
+    CStorageMonitor page;
+    page.show();
+    page.updateStorageStatus(status);
+    QCOMPARE(textOf(page, "usbd"), "USB Drive is in use"_s);
+    QCOMPARE(textOf(page, "usbdUsedRatio"), "---"_s);
+    QVERIFY(page.findChild<CPushButton*>("usbDrive"_s)->isVisible());
+    lookAt(page);
+    keepPicture(page, "storage drive that cannot be measured"_s);
+
+    status = meter.measureWithin(mountedDrive(false), LongWait); // plugged only
+    QVERIFY(status.diskAvail > 0);
+    QVERIFY(!status.bIsUSBDPlugged);
+    QCOMPARE(status.USBDUsed, 0);
 }
 
 void tst_Storage::slowDriveHoldsNobodyUp()
 {
-    const auto drive = std::make_shared<SlowDrive>();
-    CStorageMeter meter(nullptr, measureOf(drive));
+    const auto drive = std::make_shared<SlowStorage>();
+    CStorageMeter meter(nullptr, always(5), measureOf(drive));
     QSignalSpy measured(&meter, &CStorageMeter::measured);
-    const auto lastMeasured = [&measured] { return measured.last().at(0).value<StorageStatus>(); };
-    StorageStatus mounted;
-    mounted.bIsPlugged = mounted.bIsMounted = true;
 
+    drive->used = 7;
     drive->answers.release(); // quick enough
-    QCOMPARE(meter.measureWithin(mounted, 60000).USBDUsed, 7);
-    QTRY_COMPARE(measured.count(), 1);
+    QCOMPARE(meter.measureWithin(mountedDrive(), LongWait).USBDUsed, 7);
+    QVERIFY(drive->asked.tryAcquire());
 
-    // Slow: the figures of last time, and of the records that come meanwhile only the last is measured.
+    // Slow: the figures of last time. The next record asks nobody a second time, nor waits.
+    drive->used = 8;
+    QCOMPARE(meter.measureWithin(mountedDrive(), 0).USBDUsed, 7);
     drive->asked.acquire();
-    QCOMPARE(meter.measureWithin(mounted, 0).USBDUsed, 7);
-    drive->asked.acquire();
-    meter.measure(mounted);
-    const StorageStatus pulled
-        = meter.measureWithin(StorageStatus(), 60000); // does not wait for another's answer
-    QVERIFY(!pulled.bIsUSBDPlugged);
-    QCOMPARE(pulled.USBDUsed, 0);
-    QCOMPARE(pulled.diskUsed, 2);
-    drive->answers.release(2);
-    QTRY_COMPARE(measured.count(), 3);
-    for (int i = 1; i < 3; ++i) // also the answer about the drive that was there: it has gone since
-        QVERIFY(!measured.at(i).at(0).value<StorageStatus>().bIsUSBDPlugged);
-    QCOMPARE(lastMeasured().diskUsed, 1);
-    drive->asked.acquire();
+    QCOMPARE(meter.measureWithin(mountedDrive(), LongWait).USBDUsed, 7);
     QVERIFY(!drive->asked.tryAcquire());
+    drive->answers.release();
+    QTRY_COMPARE(lateFigures(measured), 8);
+}
+
+void tst_Storage::deadStorageStopsOnlyItsOwnFigures_data()
+{
+    QTest::addColumn<bool>("isDiskDead");
+    QTest::newRow("drive") << false;
+    QTest::newRow("internal") << true;
+}
+
+void tst_Storage::deadStorageStopsOnlyItsOwnFigures()
+{
+    QFETCH(bool, isDiskDead);
+    const auto dead = std::make_shared<SlowStorage>();
+    const auto measurings = std::make_shared<std::atomic<int>>(0);
+    const CStorageMeter::Measure living = [measurings] { return StorageCapacity{++*measurings, 1}; };
+    {
+        CStorageMeter meter(
+            nullptr, isDiskDead ? measureOf(dead) : living, isDiskDead ? living : measureOf(dead));
+        StorageStatus status = meter.measureWithin(mountedDrive(), 0);
+        dead->asked.acquire();
+        for (int i = 0; i < 3; ++i) {
+            const int before = *measurings;
+            QTRY_VERIFY((status = meter.measureWithin(mountedDrive(), LongWait),
+                (isDiskDead ? status.USBDUsed : status.diskUsed) > before));
+            QCOMPARE(isDiskDead ? status.diskUsed : status.USBDUsed, UnknownBlocks);
+            QVERIFY(status.bIsUSBDPlugged);
+        }
+    }
+    dead->answers.release();
+    QTRY_COMPARE(dead.use_count(), 1L);
+}
+
+void tst_Storage::nextDriveDoesNotWaitForADeadOne()
+{
+    constexpr int most = 8;
+    const auto drives = std::make_shared<SlowStorage>(); // that never say a word
+    const auto nextDrive = [](CStorageMeter& meter) {
+        meter.note(mountedDrive(false));
+        return meter.measureWithin(mountedDrive(), 0);
+    };
+    {
+        CStorageMeter meter(nullptr, always(5), measureOf(drives));
+        nextDrive(meter);
+        drives->asked.acquire();
+        nextDrive(meter);
+        QVERIFY(drives->asked.tryAcquire(1, LongWait));
+
+        // A mark that comes and goes does not pile threads up for ever.
+        constexpr int inVain = 5;
+        for (int i = 0; i < inVain; ++i)
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("measurings hang"_s));
+        for (int i = 2; i < most + inVain; ++i)
+            nextDrive(meter);
+        QTRY_COMPARE(
+            meter.measureWithin(mountedDrive(false), LongWait).diskUsed, 5); // the internal storage goes on
+    }
+    drives->answers.release(most);
+    QTRY_COMPARE(drives.use_count(), 1L); // the threads have ended, and let go
+    QCOMPARE(drives->asked.available(), most - 2);
+}
+
+void tst_Storage::figuresAreNotThoseOfADriveThatWent()
+{
+    const auto drive = std::make_shared<SlowStorage>();
+    CStorageMeter meter(nullptr, always(5), measureOf(drive));
+    QSignalSpy measured(&meter, &CStorageMeter::measured);
+    drive->used = 7;
+    drive->answers.release();
+    QCOMPARE(meter.measureWithin(mountedDrive(), LongWait).USBDUsed, 7);
+    meter.measureWithin(mountedDrive(), 0); // asked, and pulled before it answers
+    meter.note(mountedDrive(false));
+    drive->answers.release();
+    QTRY_COMPARE(drive.use_count(), 2L); // nobody measures any more
+    QCOMPARE(meter.measureWithin(mountedDrive(), 0).USBDUsed, UnknownBlocks);
+    drive->used = 9;
+    drive->answers.release();
+    QTRY_COMPARE(lateFigures(measured), 9);
+}
+
+void tst_Storage::noThreadNoEnd()
+{
+    CStorageMeter meter(nullptr, always(5), always(6));
+    QCOMPARE(meter.measureWithin(mountedDrive(), LongWait).diskUsed, 5);
+    pthread_attr_t before;
+    pthread_attr_t tooLarge;
+    QCOMPARE(pthread_getattr_default_np(&before), 0);
+    QCOMPARE(pthread_attr_init(&tooLarge), 0);
+    QCOMPARE(pthread_attr_setstacksize(&tooLarge, size_t(1) << 56), 0); // no machine has that much
+    QCOMPARE(pthread_setattr_default_np(&tooLarge), 0);
+    for (int i = 0; i < 2; ++i)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be measured"_s));
+    const StorageStatus status = meter.measureWithin(mountedDrive(), LongWait);
+    QCOMPARE(pthread_setattr_default_np(&before), 0);
+    QCOMPARE(status.diskUsed, 5); // what is there
+    QVERIFY(status.bIsUSBDPlugged);
+    meter.note(mountedDrive(false));
+    QCOMPARE(meter.measureWithin(mountedDrive(), LongWait).USBDUsed, 6); // tried again
 }
 
 void tst_Storage::meterMayGoFirst()
 {
-    const auto drive = std::make_shared<SlowDrive>();
+    const auto drive = std::make_shared<SlowStorage>();
     {
         CStorageMeter meter(nullptr, measureOf(drive));
-        meter.measure(StorageStatus());
+        meter.measureWithin(StorageStatus(), 0);
         drive->asked.acquire();
     }
     drive->answers.release();
     QTRY_COMPARE(drive.use_count(), 1L); // the thread has ended, and let go
-}
-
-void tst_Storage::measuredRecord()
-{
-    QFETCH(bool, mounted);
-    QFETCH(QString, mountPoint);
-    QFETCH(bool, hasFigures);
-    StorageStatus status = record(0, 0, true, 11, 12); // what an earlier call found
-    status.bIsPlugged = true;
-    status.bIsMounted = mounted;
-    measureStorage(status, "/home"_s, mountPoint);
-    QVERIFY(status.diskAvail > 0);
-    QCOMPARE(status.bIsUSBDPlugged, hasFigures);
-    QCOMPARE(status.USBDAvail > 0, hasFigures);
-    QVERIFY(status.USBDUsed != 11);
-    QVERIFY(status.bIsPlugged);
-    QCOMPARE(status.bIsMounted, mounted);
 }
 
 void tst_Storage::page()

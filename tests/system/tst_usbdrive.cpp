@@ -12,6 +12,7 @@
 namespace {
 
 const QString MOUNTED = QStringLiteral("/tmp/var/lib/usbd/stat-mounted");
+const QString MOUNT_POINT = QStringLiteral("/home/usbd");
 
 QString textOf(const CDialog* page, const char* name)
 {
@@ -85,8 +86,16 @@ void TestUsbDrive::pageFollowsTheDrive()
         turn("mount");
         QTRY_VERIFY(button->isVisible());
         QVERIFY(textOf(dialog, "usbd") != without);
-        QVERIFY(textOf(dialog, "usbdAvail").toInt() > 0);
+        QTRY_VERIFY(textOf(dialog, "usbdAvail").toInt() > 0); // measured aside
         keepPicture("storage-page-drive-in-use");
+
+        // Mounted, and cannot be measured: it can still be released.
+        QVERIFY(QFile::rename(MOUNT_POINT, MOUNT_POINT + QLatin1Char('2')));
+        QTRY_COMPARE(textOf(dialog, "usbdAvail"), QStringLiteral("---"));
+        QVERIFY(button->isVisible());
+        QVERIFY(textOf(dialog, "usbd") != without);
+        keepPicture("storage-page-drive-unknown");
+        QVERIFY(QFile::rename(MOUNT_POINT + QLatin1Char('2'), MOUNT_POINT));
 
         m_screen.touch(button->mapToGlobal(button->rect().center()));
         QTRY_VERIFY(!QFile::exists(MOUNTED)); // the daemon's answer to the request

@@ -14,6 +14,8 @@
 
 #include <memory>
 
+#include "paintcounter.h"
+
 namespace {
 
 /** The widget alone, on a transparent ground. */
@@ -42,27 +44,6 @@ WIFIStatus wifiRecord(bool plugged, bool connected, int strength)
     status.signalStrength = strength;
     return status;
 }
-
-/** Counts the paint events of a widget and of all below it. */
-class CPaintCounter : public QObject
-{
-public:
-    explicit CPaintCounter(QWidget* root)
-    {
-        root->installEventFilter(this);
-        for (QWidget* child : root->findChildren<QWidget*>())
-            child->installEventFilter(this);
-    }
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint)
-            ++count;
-        return QObject::eventFilter(watched, event);
-    }
-};
 
 /** The part of the header where texts may stand. */
 const QRect TEXT_AREA(22, 10, 452, 40);
@@ -233,38 +214,33 @@ void TestTopBar::unchangedWifiRecordCostsNoRepaint()
     CPaintCounter icons(indicator);
 
     indicator->updateWifiWizStatus(wifiRecord(true, true, 60));
-    QTRY_VERIFY(icons.count > 0);
+    QTRY_VERIFY(icons.paints > 0);
     const QVariant picture = icon->extraAttribute(CPushButton::PressBackground);
     // The header's paint shows that a repaint of the button would have come, too.
     const auto paintHeader = [&bar, &header](const QString& text) {
-        header.count = 0;
+        header.paints = 0;
         bar.setNavigationText(text);
-        return QTest::qWaitFor([&header] { return header.count > 0; });
+        return QTest::qWaitFor([&header] { return header.paints > 0; });
     };
     QVERIFY(paintHeader(QStringLiteral("Home")));
-    icons.count = 0;
+    icons.paints = 0;
     for (int strength = 51; strength <= 75; ++strength)
         indicator->updateWifiWizStatus(wifiRecord(true, true, strength));
     QVERIFY(paintHeader(QStringLiteral("Home>Tools")));
-    QCOMPARE(icons.count, 0);
+    QCOMPARE(icons.paints, 0);
     QCOMPARE(icon->extraAttribute(CPushButton::PressBackground).value<QPixmap>().cacheKey(),
         picture.value<QPixmap>().cacheKey());
 
     indicator->updateWifiWizStatus(wifiRecord(true, true, 76));
-    QTRY_VERIFY(icons.count > 0);
+    QTRY_VERIFY(icons.paints > 0);
 
-    header.count = 0;
+    header.paints = 0;
     bar.setNavigationText(QStringLiteral("Home>Tools"));
-    icons.count = 0;
+    icons.paints = 0;
     indicator->updateWifiWizStatus(wifiRecord(true, true, 1));
-    QTRY_VERIFY(icons.count > 0);
-    QCOMPARE(header.count, 0);
+    QTRY_VERIFY(icons.paints > 0);
+    QCOMPARE(header.paints, 0);
 }
-
-using BarSignal = void (CTopBar::*)();
-using IndicatorSignal = void (CAppStatusIndicator::*)();
-Q_DECLARE_METATYPE(BarSignal)
-Q_DECLARE_METATYPE(IndicatorSignal)
 
 void TestTopBar::followsTheRelay()
 {
@@ -282,7 +258,7 @@ void TestTopBar::followsTheRelay()
     QVERIFY(QTest::qWaitForWindowExposed(&bar));
     CPaintCounter paints(bar.getAppStateInidcator());
     emit relay->lockStateChanged(true);
-    QTRY_VERIFY(paints.count > 0);
+    QTRY_VERIFY(paints.paints > 0);
     for (CStatusIcon* icon : bar.findChildren<CStatusIcon*>())
         QVERIFY(icon->isHidden());
 }

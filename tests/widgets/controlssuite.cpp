@@ -1,6 +1,8 @@
+#include "paintcounter.h"
 #include "suites.h"
 
 #include "widgets/checkbox/checkbox.h"
+#include "widgets/dialog/dialog.h"
 #include "widgets/entrywidget/entrywidget.h"
 #include "widgets/label/label.h"
 #include "widgets/statusicon/statusicon.h"
@@ -29,18 +31,6 @@ QImage look(QWidget* window, QWidget* control)
 {
     return window->grab(control->geometry()).toImage();
 }
-
-class CPaintCounter : public QObject
-{
-public:
-    explicit CPaintCounter(QWidget* watched) { watched->installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        paints += event->type() == QEvent::Paint;
-        return false;
-    }
-    int paints = 0;
-};
 
 } // namespace
 
@@ -196,6 +186,23 @@ private slots:
         QCOMPARE(labelPaints.paints + buttonPaints.paints + iconPaints.paints + windowPaints.paints, 0);
         icon->setIcon(colored(Qt::blue));
         QTRY_VERIFY(iconPaints.paints > 0);
+    }
+
+    void dialogStandsInTheMiddleUnlessItWasMoved()
+    {
+        CWidget window;
+        window.setGeometry(0, 20, 800, 460);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        CDialog placed(&window);
+        CDialog moved(&window);
+        placed.resize(200, 100);
+        moved.resize(200, 100);
+        moved.move(30, 40);
+        placed.show();
+        moved.show();
+        QCOMPARE(placed.pos(), QPoint(160 + (640 - 200) / 2, 20 + 60 + (400 - 100) / 2));
+        QCOMPARE(moved.pos(), QPoint(30, 40));
     }
 
     void toolBoxOpensOnePage()

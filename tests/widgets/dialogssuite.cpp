@@ -1,15 +1,21 @@
 #include "suites.h"
 
 #include "busymachine.h"
+#include "widgets/keypad/keypaddialog.h"
+#include "widgets/label/label.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/pushbutton/pushbutton.h"
 #include "widgets/widget/widget.h"
 #include "widgets/widgetstack/kpwidgetstack.h"
+#include "widgets/widgetstyle/stylepainter.h"
+#include "widgets/widgetstyle/widgetstyle.h"
 #include "xscreen.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QScreen>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QtTest>
@@ -32,6 +38,23 @@ public:
 CPushButton* button(const QWidget& box, const char* name)
 {
     return box.findChild<CPushButton*>(QLatin1String(name));
+}
+
+QColor onScreen(const QPoint& at)
+{
+    const QPixmap pixel = QGuiApplication::primaryScreen()->grabWindow(0, at.x(), at.y(), 1, 1);
+    return pixel.toImage().pixelColor(0, 0);
+}
+
+int shownColors(QWidget* part)
+{
+    const QImage image = part->grab().toImage();
+    QSet<QRgb> colors;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            colors << image.pixel(x, y);
+    }
+    return colors.size();
 }
 
 /** Runs `answer` as soon as the box has come up. */
@@ -137,6 +160,95 @@ private slots:
         press.setTimestamp(ulong(pressed));
         QCoreApplication::sendEvent(&box, &press);
         QTEST(button(box, "ok")->isDown(), "answers");
+    }
+
+    void textsTooLongAreCut_data()
+    {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
+        const QString title = QStringLiteral("System Error"), text = QStringLiteral("Error Code: 9");
+        constexpr int long1 = 100 * 1000, long2 = 20 * 1000 * 1000;
+        QTest::newRow("one word") << title << QString(long1, QLatin1Char('W'));
+        QTest::newRow("words") << title << QStringLiteral("word ").repeated(long1 / 5);
+        QTest::newRow("lines") << title << QStringLiteral("line\n").repeated(long1);
+        QTest::newRow("20 MB") << title << QString(long2, QLatin1Char('i'));
+        QTest::newRow("long title") << QString(long2, QLatin1Char('t')) << text;
+        QTest::newRow("high title") << QStringLiteral("title\n").repeated(long1) << text;
+    }
+
+    void textsTooLongAreCut()
+    {
+        QFETCH(QString, title);
+        QFETCH(QString, text);
+        CMessageBox box(title, text, CMessageBox::Ok | CMessageBox::Cancel);
+        box.setMessageTextSize(20);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        QVERIFY(box.text().size() < 10000 && box.title().size() < 10000);
+        const QRect room = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionWorkingArea);
+        QVERIFY(room.contains(box.geometry()));
+        QRegion taken;
+        for (const auto* part : box.findChildren<QWidget*>()) {
+            QVERIFY(part->isVisible() && box.innerRect().contains(part->geometry()));
+            QVERIFY(!taken.intersects(part->geometry()));
+            taken += part->geometry();
+        }
+        QVERIFY(button(box, "ok")->height() >= 40);
+        for (auto* label : box.findChildren<CLabel*>())
+            QVERIFY2(shownColors(label) > 2, qPrintable(label->text().left(20))); // there is a text to see
+    }
+
+    void aBoxHasRoundCorners()
+    {
+        CMainPage window;
+        window.setBackgroundColor(QColor(Qt::darkGreen));
+        window.show();
+        CMessageBox box(QStringLiteral("Warning"), QStringLiteral("Go on?"), CMessageBox::Ok, &window);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        const QRect place = box.geometry();
+        const QColor border(Qt::gray);
+        QTRY_COMPARE(onScreen({place.center().x(), place.top()}), border);
+        const QColor behind = onScreen(place.topLeft() - QPoint(4, 4));
+        QVERIFY(behind != border);
+        const auto corners = [&] {
+            return QVector<QColor>{onScreen(place.topLeft()), onScreen(place.topRight()),
+                onScreen(place.bottomLeft()), onScreen(place.bottomRight())};
+        };
+        QTRY_COMPARE(corners(), QVector<QColor>(4, behind));
+        // Inside the border the title follows the curve.
+        QCOMPARE(onScreen(box.mapToGlobal(box.innerRect().topLeft())), border);
+        QCOMPARE(onScreen(box.mapToGlobal(box.innerRect().topRight())), border);
+
+        box.setAside(true);
+        QTRY_COMPARE(onScreen({place.center().x(), place.top()}), behind);
+        box.setAside(false);
+        QTRY_COMPARE(onScreen({place.center().x(), place.top()}), border);
+        QCOMPARE(corners(), QVector<QColor>(4, behind));
+
+        // What fills the page frame is a page, and has its corners.
+        box.resize(CWidgetStyle::getScreenRegion(CWidgetStyle::RegionPageFrame).size());
+        QTRY_COMPARE(onScreen(box.geometry().topLeft()), border);
+    }
+
+    void yesIsToldFromNo()
+    {
+        CMessageBox box(QStringLiteral("Warning"), QStringLiteral("Go on?"),
+            CMessageBox::Ok | CMessageBox::Yes | CMessageBox::No | CMessageBox::Cancel);
+        const auto fill = [&box](const char* name) {
+            const QImage image = button(box, name)->grab().toImage();
+            return image.pixelColor(12, image.height() / 2);
+        };
+        QCOMPARE(fill("yes"), fill("ok"));
+        QCOMPARE(fill("no"), fill("cancel"));
+        QVERIFY(CStylePainter::contrast(fill("ok"), fill("cancel")) >= 1.5);
+        CKeyPadDialog pad(QStringLiteral("Name"), QString(), CKeyPadFactory::KeyPadText);
+        CPushButton* enter = button(pad, "ok");
+        QCOMPARE(enter->grab().toImage().pixelColor(12, enter->height() / 2), fill("ok"));
+        const QColor light = CWidgetStyle::getColor(CWidgetStyle::ColorTextLight);
+        const QColor dark = CWidgetStyle::getColor(CWidgetStyle::ColorTextDark);
+        QVERIFY(CStylePainter::contrast(fill("ok"), light) >= 4.5);
+        QVERIFY(CStylePainter::contrast(fill("cancel"), dark) >= 4.5);
     }
 
     void pagesLieOverEachOther()

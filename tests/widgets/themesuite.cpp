@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 namespace {
 
 QByteArray themeFile(const QByteArray& entries)
@@ -72,6 +74,14 @@ private slots:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Theme .*theme\\.xml")));
         QVERIFY(!CWidgetStyle::initialize(name));
         QCOMPARE(snapshot(), m_builtIn);
+    }
+
+    void pipesAreNotWaitedFor()
+    {
+        const QString pipe = m_dir.filePath(QStringLiteral("pipe"));
+        QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^Theme .*cannot be opened")));
+        QVERIFY(!CWidgetStyle::initialize(pipe));
     }
 
     void unusableEntryKeepsItsValue_data()

@@ -1,6 +1,7 @@
 #include "widgets/dialog/dialog.h"
 
 #include "widgets/keywatch/keywatch.h"
+#include "widgets/label/label.h"
 #include "widgets/pushbutton/pushbutton.h"
 #include "widgets/touchregion/touchregion.h"
 #include "widgets/widget/treecall.h"
@@ -9,14 +10,21 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QWindow>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 
 namespace {
 
 constexpr int PressShown = 100; // ms that a button pressed by key looks pressed
+
+int scrimOpacity()
+{
+    return std::clamp(CWidgetStyle::getMetric(QStringLiteral("scrimOpacity"), 90), 0, 254);
+}
 
 /** The veil over the window behind a dialog. */
 class CScrim : public QWidget
@@ -34,10 +42,23 @@ protected:
     void paintEvent(QPaintEvent* event) override
     {
         QPainter painter(this);
-        painter.fillRect(
-            event->rect(), QColor(0, 0, 0, CWidgetStyle::getMetric(QStringLiteral("scrimOpacity"), 90)));
+        painter.fillRect(event->rect(), QColor(0, 0, 0, scrimOpacity()));
     }
 };
+
+/** Every pixel that the rounded rectangle covers, if only in part. */
+QRegion roundedRegion(const QRect& rect, int radius)
+{
+    QRegion region = rect.adjusted(0, radius, 0, -radius);
+    for (int y = 0; y < radius; ++y) {
+        const int up = radius - 1 - y; // from the row's inner edge to the corner's centre
+        const int inset = radius - int(std::ceil(std::sqrt(double(radius * radius - up * up))));
+        const QRect row(rect.left() + inset, rect.top() + y, rect.width() - 2 * inset, 1);
+        region += row;
+        region += row.translated(0, rect.height() - 1 - 2 * y);
+    }
+    return region;
+}
 
 /** How far `to` lies from `from` in an arrow key's direction, and how far aside; no way when not in it. */
 struct Way
@@ -93,20 +114,26 @@ void CDialog::setBackgroundColor(int colorCode)
 void CDialog::setBorderColor(const QColor& color)
 {
     m_frame.setBorderColor(color);
-    update();
+    roundCorners();
 }
 
 void CDialog::setBorderColor(int colorCode)
 {
     m_frame.setBorderColor(colorCode);
-    update();
+    roundCorners();
 }
 
 void CDialog::setBorderWidth(int width)
 {
     m_frame.setBorderWidths(QMargins(width, width, width, width));
     setContentsMargins(m_frame.borderWidths()); // layouts keep off the border
-    update();
+    roundCorners();
+}
+
+void CDialog::setTitleLabel(CLabel* title)
+{
+    m_pHeading = title;
+    roundCorners();
 }
 
 QRect CDialog::innerRect() const
@@ -129,7 +156,7 @@ void CDialog::translate()
 
 void CDialog::updateWidgetStyle()
 {
-    update();
+    roundCorners();
     callInTree(this, "updateWidgetStyle()");
 }
 
@@ -137,6 +164,22 @@ void CDialog::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     m_frame.paint(painter, rect());
+    const int radius = cornerRadius();
+    if (radius == 0)
+        return;
+    // The window's shape has whole pixels only. Those on the edge are blended with what is mostly behind.
+    QPainterPath corners;
+    corners.addRect(rect());
+    corners.addRoundedRect(rect(), radius, radius);
+    const QColor ground = CWidgetStyle::getColor(CWidgetStyle::ColorScreen);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(corners, parentWidget() ? ground.darker(100 * 255 / (255 - scrimOpacity())) : ground);
+}
+
+void CDialog::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    roundCorners();
 }
 
 void CDialog::showEvent(QShowEvent* event)
@@ -203,12 +246,11 @@ void CDialog::setAside(bool aside)
     m_isAside = aside;
     if (aside) {
         // Hiding it would answer it, and it has to go on hearing the keys for the window that it blocks.
-        setMask(QRegion(-1, -1, 1, 1));
         windowHandle()->installEventFilter(this);
     } else {
         windowHandle()->removeEventFilter(this);
-        clearMask();
     }
+    shapeWindow();
     emit asideChanged();
 }
 
@@ -270,6 +312,37 @@ void CDialog::pressMarked()
     CPushButton* marked = markedButton();
     if (marked && !isTouchDropped(marked))
         marked->animateClick(PressShown);
+}
+
+int CDialog::cornerRadius() const
+{
+    const QSize page = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionPageFrame).size();
+    const bool isPage = width() >= page.width() || height() >= page.height();
+    return isPage ? 0 : CWidgetStyle::getMetric(QStringLiteral("dialogRadius"), 10);
+}
+
+void CDialog::roundCorners()
+{
+    const QMargins border = m_frame.borderWidths();
+    const int inside = std::max(0, cornerRadius() - border.top());
+    m_frame.setRounded(inside, CFrameStyle::AllCorners);
+    if (m_pHeading) {
+        m_pHeading->setBorderColor(m_frame.borderColor());
+        m_pHeading->setRounded(inside, CFrameStyle::TopCorners);
+    }
+    shapeWindow();
+    update();
+}
+
+void CDialog::shapeWindow()
+{
+    const int radius = cornerRadius();
+    if (m_isAside)
+        setMask(QRegion(-1, -1, 1, 1));
+    else if (radius > 0)
+        setMask(roundedRegion(rect(), radius));
+    else
+        clearMask();
 }
 
 void CDialog::dimWindowBehind()

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QPointer>
 
+class CLabel;
 class CPushButton;
 
 /**
@@ -14,6 +15,8 @@ class CPushButton;
  * presses the marked one, so that a box can be answered without touching it. Escape does nothing: only a
  * button answers. The function keys F1 to F4 go on to the window behind, where they act on the instrument as
  * ever.
+ *
+ * Its corners are round, unless it fills the page frame from edge to edge, as a page does.
  *
  * A dialog that its owner has not moved appears in the middle of the working area. exec() runs it modally.
  * Interface thread only.
@@ -36,6 +39,8 @@ public:
     void setBorderColor(int colorCode);
     void setBorderColor(Qt::GlobalColor color) { setBorderColor(QColor(color)); }
     void setBorderWidth(int width);
+    /** The label across the top of the inner rectangle: its upper corners follow the dialog's. */
+    void setTitleLabel(CLabel* title);
     /** The dialog's rectangle without its border. */
     QRect innerRect() const;
 
@@ -70,6 +75,7 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -85,8 +91,12 @@ private:
     void pressMarked();
     void passFunctionKeyOn(QKeyEvent* event);
     void dimWindowBehind();
+    int cornerRadius() const;
+    void roundCorners();
+    void shapeWindow();
 
     CFrameStyle m_frame;
+    QPointer<CLabel> m_pHeading;
     int m_windowID = -1;
     bool m_isAside = false;
     QPointer<QWidget> m_pScrim; // child of the window behind; gone with hideEvent

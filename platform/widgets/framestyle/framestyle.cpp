@@ -1,5 +1,6 @@
 #include "widgets/framestyle/framestyle.h"
 
+#include "widgets/widgetstyle/stylepainter.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QPainter>
@@ -39,6 +40,12 @@ void CFrameStyle::setBorderWidths(const QMargins& widths)
         std::max(0, widths.bottom()));
 }
 
+void CFrameStyle::setRounded(int radius, Corners corners)
+{
+    m_radius = std::max(0, radius);
+    m_rounded = corners;
+}
+
 QColor CFrameStyle::backgroundColor() const
 {
     return m_background.resolved();
@@ -57,15 +64,23 @@ bool CFrameStyle::hasBackground() const
 void CFrameStyle::paint(QPainter& painter, const QRect& rect) const
 {
     const QColor ground = backgroundColor();
+    const QColor line = borderColor();
+    const QRect inner = rect.marginsRemoved(m_widths);
+    if (m_radius > 0 && ground.isValid() && line.isValid()) {
+        painter.fillRect(rect, line);
+        const int below = m_rounded == TopCorners ? m_radius : 0; // where the other corners are out of sight
+        painter.save();
+        painter.setClipRect(rect, Qt::IntersectClip);
+        CStylePainter::paintPlate(painter, inner.adjusted(0, 0, 0, below), m_radius, ground);
+        painter.restore();
+        return;
+    }
     if (ground.isValid())
         painter.fillRect(rect, ground);
     if (!m_picture.isNull())
         painter.drawPixmap(rect.topLeft(), m_picture);
-
-    const QColor line = borderColor();
     if (!line.isValid() || m_widths.isNull())
         return;
-    const QRect inner = rect.marginsRemoved(m_widths);
     const QRect sides[] = {
         QRect(rect.left(), rect.top(), rect.width(), m_widths.top()),
         QRect(rect.left(), rect.bottom() + 1 - m_widths.bottom(), rect.width(), m_widths.bottom()),

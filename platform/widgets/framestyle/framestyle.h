@@ -38,6 +38,10 @@ public:
     void setBorderWidths(const QMargins& widths);
     QMargins borderWidths() const { return m_widths; }
 
+    enum Corners { TopCorners, AllCorners };
+    /** Rounds corners of the background, at the inside of the border, whose colour fills what they leave. */
+    void setRounded(int radius, Corners corners);
+
     QColor backgroundColor() const;
     QColor borderColor() const;
     bool hasBackground() const;
@@ -57,4 +61,6 @@ private:
     Paint m_border;
     QPixmap m_picture;
     QMargins m_widths;
+    int m_radius = 0;
+    Corners m_rounded = AllCorners;
 };

@@ -259,10 +259,7 @@ void CKeyPadDialog::makeKeys()
     connect(m_pCancel, &QAbstractButton::clicked, this, &CKeyPadDialog::reject);
     m_pOk = new CPushButton(tr("OK"), this);
     m_pOk->setObjectName(QStringLiteral("ok"));
-    m_pOk->setExtraAttribute(CPushButton::ReleaseBackground, int(CWidgetStyle::ColorPressed));
-    m_pOk->setExtraAttribute(
-        CPushButton::PressBackground, CWidgetStyle::getButtonPixmap(CWidgetStyle::ButtonPressed));
-    m_pOk->setExtraAttribute(CPushButton::PressColor, int(CWidgetStyle::ColorAccent));
+    m_pOk->setAffirmative();
     connect(m_pOk, &QAbstractButton::clicked, this, &CKeyPadDialog::accept);
     labelKeys();
 }

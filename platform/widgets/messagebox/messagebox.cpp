@@ -13,7 +13,9 @@ namespace {
 constexpr int Border = 3;
 constexpr int Margin = 20; // around and between message and buttons
 constexpr int ButtonGap = 24;
+constexpr int Air = 10; // around a box that is as large as the working area lets it be
 constexpr int TitleTextSize = 20;
+constexpr int MostCharacters = 8000; // more than the working area holds
 
 // The buttons in the order in which they stand.
 constexpr struct
@@ -21,12 +23,19 @@ constexpr struct
     CMessageBox::Button button;
     const char* name;
     const char* text;
+    bool isAffirmative;
 } ButtonTable[] = {
-    {CMessageBox::Ok, "ok", QT_TRANSLATE_NOOP("CMessageBox", "OK")},
-    {CMessageBox::Yes, "yes", QT_TRANSLATE_NOOP("CMessageBox", "Yes")},
-    {CMessageBox::No, "no", QT_TRANSLATE_NOOP("CMessageBox", "No")},
-    {CMessageBox::Cancel, "cancel", QT_TRANSLATE_NOOP("CMessageBox", "Cancel")},
+    {CMessageBox::Ok, "ok", QT_TRANSLATE_NOOP("CMessageBox", "OK"), true},
+    {CMessageBox::Yes, "yes", QT_TRANSLATE_NOOP("CMessageBox", "Yes"), true},
+    {CMessageBox::No, "no", QT_TRANSLATE_NOOP("CMessageBox", "No"), false},
+    {CMessageBox::Cancel, "cancel", QT_TRANSLATE_NOOP("CMessageBox", "Cancel"), false},
 };
+
+/** The text as far as anybody will see it: the work that a box makes does not grow with what it is given. */
+QString bounded(const QString& text)
+{
+    return text.size() <= MostCharacters ? text : text.left(MostCharacters) + QStringLiteral("...");
+}
 
 int buttonHeight()
 {
@@ -37,12 +46,13 @@ int buttonHeight()
 
 CMessageBox::CMessageBox(const QString& title, const QString& text, Buttons buttons, QWidget* parent)
     : CDialog(parent)
-    , m_pTitle(new CLabel(title, this))
-    , m_pText(new CLabel(text, this))
+    , m_pTitle(new CLabel(bounded(title).replace(QLatin1Char('\n'), QLatin1Char(' ')), this))
+    , m_pText(new CLabel(bounded(text), this))
 {
     setBackgroundColor(CWidgetStyle::ColorDialog);
     setBorderColor(QColor(Qt::gray));
     setBorderWidth(Border);
+    setTitleLabel(m_pTitle);
     m_pTitle->setBackgroundColor(CWidgetStyle::ColorTitle);
     m_pTitle->setTextColor(CWidgetStyle::ColorTextLight);
     m_pTitle->setTextSize(TitleTextSize);
@@ -57,6 +67,10 @@ CMessageBox::CMessageBox(const QString& title, const QString& text, Buttons butt
             continue;
         auto* button = new CPushButton(tr(row.text), this);
         button->setObjectName(QLatin1String(row.name));
+        if (row.isAffirmative)
+            button->setAffirmative();
+        else
+            button->setQuiet();
         const Button answer = row.button;
         connect(button, &QAbstractButton::clicked, this, [this, answer] {
             m_answer = answer;
@@ -160,7 +174,9 @@ void CMessageBox::moveMarker(int arrowKey)
 
 void CMessageBox::adjustToText()
 {
-    const QSize room = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionWorkingArea).size();
+    const QSize room = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionWorkingArea)
+                           .marginsRemoved({Air, Air, Air, Air})
+                           .size();
     const int widest
         = std::min(CWidgetStyle::getMetric(QStringLiteral("messageMaxWidth"), 600), room.width());
     const int narrowest = std::min(CWidgetStyle::getMetric(QStringLiteral("messageMinWidth"), 400), widest);

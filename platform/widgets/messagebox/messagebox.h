@@ -5,9 +5,9 @@
 class CLabel;
 
 /**
- * The message box: a title band, a message and one or more buttons. Sizes itself to its text within the
- * working area, again after every change of a text or size. The buttons carry the object names "ok",
- * "cancel", "yes" and "no"; all four arrow keys move the marker along them.
+ * The message box: a title line, a message and one or more buttons. Sizes itself to its text within the
+ * working area, again after every change of a text or size; what is longer ends in "...". The buttons carry
+ * the object names "ok", "cancel", "yes" and "no"; all four arrow keys move the marker along them.
  */
 class CMessageBox : public CDialog
 {
@@ -27,6 +27,7 @@ public:
     void setMessageTextColor(int colorCode);
     void setMessageAlignment(Qt::Alignment alignment);
 
+    /** As shown; of a text too long for any box its beginning. */
     QString title() const;
     QString text() const;
 

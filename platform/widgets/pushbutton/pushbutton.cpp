@@ -62,6 +62,20 @@ QVariant CPushButton::extraAttribute(ExtraAttribute attribute) const
     return m_attributes.value(attribute);
 }
 
+void CPushButton::setAffirmative()
+{
+    setExtraAttribute(ReleaseBackground, int(CWidgetStyle::ColorPressed));
+    setExtraAttribute(PressBackground, CWidgetStyle::getButtonPixmap(CWidgetStyle::ButtonPressed));
+    setExtraAttribute(PressColor, int(CWidgetStyle::ColorAccent));
+}
+
+void CPushButton::setQuiet()
+{
+    setBackgroundColor(QColor(Qt::gray));
+    setExtraAttribute(ReleaseColor, int(CWidgetStyle::ColorTextDark));
+    setExtraAttribute(PressColor, int(CWidgetStyle::ColorTextLight));
+}
+
 void CPushButton::setBackgroundImage(const QPixmap& picture)
 {
     if (m_background.picture.cacheKey() == picture.cacheKey())

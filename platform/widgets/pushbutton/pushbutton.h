@@ -39,6 +39,11 @@ public:
     void setExtraAttribute(ExtraAttribute attribute, const QVariant& value);
     QVariant extraAttribute(ExtraAttribute attribute) const;
 
+    /** The look of the button that says yes: a brighter fill than those beside it. */
+    void setAffirmative();
+    /** The look of a button that changes nothing, on a light ground: gray. */
+    void setQuiet();
+
     /** Picture of the released state, drawn over the fill and under icon and text. */
     void setBackgroundImage(const QPixmap& picture);
     /**

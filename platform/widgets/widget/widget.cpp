@@ -67,6 +67,12 @@ void CWidget::setBorderWidth(int left, int top, int right, int bottom)
     update();
 }
 
+void CWidget::setRounded(int radius, CFrameStyle::Corners corners)
+{
+    m_frame.setRounded(radius, corners);
+    update();
+}
+
 QRect CWidget::innerRect() const
 {
     return rect().marginsRemoved(m_frame.borderWidths());

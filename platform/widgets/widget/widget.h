@@ -43,6 +43,8 @@ public:
      * border. */
     void setBorderWidth(int width);
     void setBorderWidth(int left, int top, int right, int bottom);
+    /** Rounds corners of the background; what they leave has the border's colour. */
+    void setRounded(int radius, CFrameStyle::Corners corners);
     const CFrameStyle& frameStyle() const { return m_frame; }
 
     /** The widget's rectangle without its border. */

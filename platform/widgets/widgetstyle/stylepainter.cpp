@@ -1,10 +1,12 @@
 #include "widgets/widgetstyle/stylepainter.h"
 
+#include "files/plainfile.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QDebug>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QSet>
 #include <QTextLayout>
 #include <qdrawutil.h>
@@ -16,6 +18,7 @@ namespace {
 
 constexpr double ReadableContrast = 4.5;
 const QColor MarkerLine(12, 16, 34);
+constexpr qint64 LargestPicture = 1024 * 1024; // bytes
 
 /** Saves the painter for one call. */
 class CPainterState
@@ -88,7 +91,11 @@ void CStylePainter::paintButton(QPainter& painter, const QRect& rect, int status
     const int radius = CWidgetStyle::getMetric(QStringLiteral("buttonRadius"), 8);
     if (!look.picture.isEmpty()) {
         static QSet<QString> unreadable; // each is tried and told once
-        const QPixmap picture = unreadable.contains(look.picture) ? QPixmap() : QPixmap(look.picture);
+        QPixmap picture;
+        QFile file(look.picture);
+        if (!unreadable.contains(look.picture) && !QPixmapCache::find(look.picture, &picture)
+            && openPlainFile(file) && picture.loadFromData(file.read(LargestPicture)))
+            QPixmapCache::insert(look.picture, picture);
         if (!picture.isNull()) {
             qDrawBorderPixmap(&painter, rect, QMargins(radius, radius, radius, radius), picture);
             return;

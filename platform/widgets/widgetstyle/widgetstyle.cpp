@@ -1,5 +1,6 @@
 #include "widgets/widgetstyle/widgetstyle.h"
 
+#include "files/plainfile.h"
 #include "widgets/widgetstyle/stylepainter.h"
 #include "widgets/widgetstyle/theme.h"
 
@@ -49,8 +50,9 @@ size_t buttonSlot(int status)
 bool CWidgetStyle::initialize(const QString& fileName)
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        qWarning().noquote() << "Theme" << fileName << "cannot be opened:" << file.errorString();
+    QString reason;
+    if (!openPlainFile(file, &reason)) {
+        qWarning().noquote() << "Theme" << fileName << "cannot be opened:" << reason;
         return false;
     }
     if (!readTheme(file, fileName, theme()))

@@ -37,6 +37,18 @@ QString uptimeText(qint64 seconds)
                      : CAboutPage::tr("%1 d %2", "days, then hours:minutes:seconds").arg(days).arg(clock);
 }
 
+QString addressName(const InterfaceAddress& entry)
+{
+    switch (entry.family) {
+    case InterfaceAddress::IPv4:
+        return CAboutPage::tr("IPv4 address of %1", "a network interface").arg(entry.interfaceName);
+    case InterfaceAddress::IPv6:
+        return CAboutPage::tr("IPv6 address of %1", "a network interface").arg(entry.interfaceName);
+    default:
+        return CAboutPage::tr("Address of %1", "a network interface").arg(entry.interfaceName);
+    }
+}
+
 QString memoryText(qint64 kibibytes)
 {
     return kibibytes < 0 ? QString() : CAboutPage::tr("%1 MiB").arg(kibibytes / 1024);
@@ -131,8 +143,9 @@ QVector<CAboutPage::Row> CAboutPage::readRows() const
     };
     const QVector<InterfaceAddress> addresses = readAddresses();
     for (const InterfaceAddress& entry : addresses)
-        rows << Row(tr("Address of %1", "a network interface").arg(entry.interfaceName),
-            entry.address.isEmpty() ? tr("none", "address") : entry.address);
+        rows << Row(addressName(entry), entry.address.isEmpty() ? tr("none", "address") : entry.address);
+    if (addresses.isEmpty())
+        rows << Row(tr("Network address"), tr("none", "address"));
     for (Row& row : rows) {
         if (row.second.isEmpty())
             row.second = tr("unknown", "value");

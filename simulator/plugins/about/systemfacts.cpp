@@ -1,7 +1,6 @@
 #include "systemfacts.h"
 
 #include <QFile>
-#include <QStringList>
 
 #include <algorithm>
 #include <arpa/inet.h>
@@ -29,9 +28,8 @@ QString addressText(const sockaddr* address)
 struct Interface
 {
     QString name;
-    bool isLoopback;
-    QStringList v4;
-    QStringList v6;
+    QVector<InterfaceAddress> v4;
+    QVector<InterfaceAddress> v6;
 };
 
 } // namespace
@@ -76,36 +74,40 @@ qint64 readUptime()
     return ::clock_gettime(CLOCK_BOOTTIME, &time) == 0 ? qint64(time.tv_sec) : -1;
 }
 
+QVector<InterfaceAddress> addressesOf(const ifaddrs* first)
+{
+    QVector<Interface> interfaces;
+    for (const ifaddrs* entry = first; entry; entry = entry->ifa_next) {
+        if (!(entry->ifa_flags & IFF_UP) || (entry->ifa_flags & IFF_LOOPBACK))
+            continue;
+        const QString name = QString::fromLocal8Bit(entry->ifa_name);
+        auto found = std::find_if(interfaces.begin(), interfaces.end(),
+            [&name](const Interface& known) { return known.name == name; });
+        if (found == interfaces.end())
+            found = interfaces.insert(found, {name, {}, {}});
+        const QString address = addressText(entry->ifa_addr);
+        if (address.isEmpty())
+            continue;
+        if (entry->ifa_addr->sa_family == AF_INET)
+            found->v4 << InterfaceAddress{name, InterfaceAddress::IPv4, address};
+        else
+            found->v6 << InterfaceAddress{name, InterfaceAddress::IPv6, address};
+    }
+
+    QVector<InterfaceAddress> result;
+    for (const Interface& known : qAsConst(interfaces)) {
+        if (known.v4.isEmpty() && known.v6.isEmpty())
+            result << InterfaceAddress{known.name, InterfaceAddress::NoAddress, QString()};
+        result << known.v4 << known.v6;
+    }
+    return result;
+}
+
 QVector<InterfaceAddress> readAddresses()
 {
     ifaddrs* first = nullptr;
     if (::getifaddrs(&first) != 0)
         return {};
     const std::unique_ptr<ifaddrs, decltype(&::freeifaddrs)> guard(first, &::freeifaddrs);
-
-    QVector<Interface> interfaces;
-    for (const ifaddrs* entry = first; entry; entry = entry->ifa_next) {
-        if (!(entry->ifa_flags & IFF_UP))
-            continue;
-        const QString name = QString::fromLocal8Bit(entry->ifa_name);
-        auto found = std::find_if(interfaces.begin(), interfaces.end(),
-            [&name](const Interface& known) { return known.name == name; });
-        if (found == interfaces.end())
-            found = interfaces.insert(found, {name, bool(entry->ifa_flags & IFF_LOOPBACK), {}, {}});
-        const QString address = addressText(entry->ifa_addr);
-        if (!address.isEmpty())
-            (entry->ifa_addr->sa_family == AF_INET ? found->v4 : found->v6) << address;
-    }
-    std::stable_partition(
-        interfaces.begin(), interfaces.end(), [](const Interface& known) { return !known.isLoopback; });
-
-    QVector<InterfaceAddress> result;
-    for (const Interface& known : qAsConst(interfaces)) {
-        const QStringList addresses = known.v4 + known.v6;
-        if (addresses.isEmpty())
-            result << InterfaceAddress{known.name, QString()};
-        for (const QString& address : addresses)
-            result << InterfaceAddress{known.name, address};
-    }
-    return result;
+    return addressesOf(first);
 }

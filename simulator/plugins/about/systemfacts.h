@@ -12,11 +12,16 @@ struct MemoryFacts
     qint64 available = -1; ///< what programs can still get: free, and what the kernel gives back at once
 };
 
-/** An address of a network interface that is up; empty for one without an address. */
+struct ifaddrs;
+
+/** An address of a network interface that is up. */
 struct InterfaceAddress
 {
+    enum Family { NoAddress, IPv4, IPv6 };
+
     QString interfaceName;
-    QString address; ///< IPv4 or IPv6 in numbers
+    Family family = NoAddress;
+    QString address; ///< in numbers; empty for an interface without one
 };
 
 /** Name and release of the running kernel. */
@@ -27,5 +32,8 @@ MemoryFacts parseMemory(const QByteArray& meminfo);
 MemoryFacts readMemory();
 /** Seconds since the kernel started, time asleep included; -1 when there is no such clock. */
 qint64 readUptime();
-/** All addresses by interface, IPv4 before IPv6, the loopback interface last. */
+/** From the system's list: by interface, IPv4 before IPv6. The loopback interface, by which nobody reaches
+ * the unit, is left out. */
+QVector<InterfaceAddress> addressesOf(const ifaddrs* first);
+/** The addresses of this unit as of now. */
 QVector<InterfaceAddress> readAddresses();

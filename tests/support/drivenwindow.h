@@ -4,13 +4,13 @@
 #include "fixtureplugins.h"
 #include "mainwindow.h"
 #include "systemsettings.h"
+#include "testfiles.h"
 #include "widgets/statusicon/statusicon.h"
 #include "widgets/toolbox/toolbox.h"
 #include "widgets/toolbox/toolboxbutton.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QTest>
 
 #include <memory>
@@ -24,13 +24,6 @@ constexpr QRect TEST_APP_AREA(0, 0, 800, 460);
 inline QRect region()
 {
     return qApp->property("NonInteractiveRegion").toRect();
-}
-
-inline void writeFile(const QString& path, const QByteArray& content = QByteArray())
-{
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(path));
-    QCOMPARE(file.write(content), qint64(content.size()));
 }
 
 inline void setSetting(CSystemSettings::SystemAttribute attribute, const QVariant& value)
