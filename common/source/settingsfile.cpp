@@ -34,7 +34,7 @@ namespace {
 
 constexpr std::chrono::seconds ReadWait(1);
 constexpr int FlushWait = 2000; // ms
-constexpr qint64 MaxFileSize = 1024 * 1024; // bytes; what is larger is none of ours
+constexpr qint64 MaxFileSize = qint64(1024) * 1024; // bytes; what is larger is none of ours
 
 // The file that Qt gives the application below a directory of configurations, and the organization's.
 QStringList fileNames(const QString& directory)

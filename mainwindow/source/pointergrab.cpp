@@ -58,8 +58,12 @@ void CPointerGrab::set(bool wanted)
     }
     m_retry.stop();
     m_isHeld = false;
-    xcb_ungrab_button(display, XCB_BUTTON_INDEX_ANY, QX11Info::appRootWindow(), XCB_MOD_MASK_ANY);
-    xcb_flush(display);
+    // Checked, so that it is done when this returns: the next touch may come at once.
+    const auto request = xcb_ungrab_button_checked(
+        display, XCB_BUTTON_INDEX_ANY, xcb_window_t(QX11Info::appRootWindow()), XCB_MOD_MASK_ANY);
+    const XcbPtr<xcb_generic_error_t> error(xcb_request_check(display, request), &std::free);
+    if (error)
+        qWarning("Can not let go of the pointer: X error %d", int(error->error_code));
 }
 
 void CPointerGrab::tryToGrab()

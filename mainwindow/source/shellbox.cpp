@@ -53,7 +53,7 @@ bool execShellBox(ShellBox kind, CWindowHost& host, const QString& title, const 
 {
     const BoxLook& look = lookOf(kind);
     CMessageBox box(title, text, CMessageBox::Buttons(look.buttons), host.dialogParent());
-    const auto set = [&box](void (CMessageBox::*setter)(int), int value) {
+    const auto set = [&box](auto setter, int value) {
         if (value != AsBuilt)
             (box.*setter)(value);
     };

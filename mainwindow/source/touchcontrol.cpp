@@ -2,6 +2,7 @@
 
 #include "commutils.h"
 #include "pointergrab.h"
+#include "screenarea.h"
 #include "touchwatch.h"
 
 #include <QCoreApplication>
@@ -14,9 +15,9 @@ QRect regionOf(CTouchControl::NonInteractiveRegionType type, const QRect& custom
 {
     switch (type) {
     case CTouchControl::FullScreen:
-        return {0, 0, 800, 480};
+        return screenArea();
     case CTouchControl::ExcludeBottomBar:
-        return {0, 0, 800, 460};
+        return areaAboveBottomBar();
     case CTouchControl::CutomizeRegion:
         return custom;
     default:

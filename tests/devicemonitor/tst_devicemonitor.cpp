@@ -144,13 +144,7 @@ void tst_DeviceMonitor::initTestCase()
     REQUIRE_INSTRUMENT();
     QCoreApplication::setOrganizationName("tst_devicemonitor"_s);
     CSystemSettings::globalSettings();
-    qRegisterMetaType<PowerStatus>("PowerStatus");
-    qRegisterMetaType<BluetoothStatus>("BluetoothStatus");
-    qRegisterMetaType<StorageStatus>("StorageStatus");
-    qRegisterMetaType<WIFIStatus>("WIFIStatus");
-    qRegisterMetaType<OPMStatus>("OPMStatus");
-    qRegisterMetaType<GPSStatus>("GPSStatus");
-    qRegisterMetaType<DataCardStatus>("DataCardStatus");
+    registerStatusTypes();
 }
 
 void tst_DeviceMonitor::cleanup()

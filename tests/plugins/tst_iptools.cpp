@@ -174,7 +174,7 @@ void TestIpTools::pingIsLiveAndStops()
     QTRY_VERIFY(running("ping").isEmpty());
     QVERIFY(m_plugin->stop());
     QVERIFY(!m_plugin->bIsStarted);
-    QCOMPARE(openDescriptors(), before);
+    QTRY_COMPARE(openDescriptors(), before);
 }
 
 void TestIpTools::traceEndsByItself()

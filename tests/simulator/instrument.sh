@@ -18,7 +18,8 @@ kept_apart() {
     for place in "$checkout" "$build" / /etc /usr /usr/local /usr/share /var /var/log /opt /root /sys; do
         [ -d "$place" ] || continue
         expect "no file can be made in $place" refused "$(bare -- sh -c \
-            'if touch "$1/made-by-a-test"; then echo written; else echo refused; fi' sh "$place" 2>/dev/null)"
+            'if touch "$1/made-by-a-test"; then rm "$1/made-by-a-test"; echo written; else echo refused; fi' \
+            sh "$place" 2>/dev/null)"
     done
     expect 'no kernel setting can be changed' refused "$(bare -- sh -c \
         'if echo x >/proc/sys/kernel/domainname; then echo changed; else echo refused; fi' 2>/dev/null)"
