@@ -45,7 +45,7 @@ int millisecondsUntil(uint64_t due)
 {
     using namespace std::chrono;
     const auto now = uint64_t(duration_cast<microseconds>(steady_clock::now().time_since_epoch()).count());
-    constexpr uint64_t LONGEST = 3600 * 1000; // asked again then
+    constexpr uint64_t LONGEST = 3600000; // asked again then
     return due <= now ? 0 : int(std::min((due - now) / 1000 + 1, LONGEST));
 }
 

@@ -6,7 +6,7 @@ cd "$checkout" || exit 1
 
 while IFS='|' read -r command status text; do
     # shellcheck disable=SC2086 # words of the command
-    output=$(timeout 20 $command 2>&1 </dev/null)
+    output=$(timeout 60 $command 2>&1 </dev/null)
     expect "$command" "$status, told" "$?, $(case $output in *"$text"*) echo told ;; *) echo "$output" ;; esac)"
 done <<'TABLE'
 ./run --help|0|--port N

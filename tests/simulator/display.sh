@@ -58,7 +58,7 @@ expect 'a display that stands still' '1, it does not answer' \
     "$(DISPLAY=:$display "$checkout/simulator/lib/display.py" >"$scratch/why"; echo "$?, $(cat "$scratch/why")")"
 kill -CONT $server
 end_display
-expect 'a display that is not there' '1, said why' "$(DISPLAY=:$display \
+expect 'a display that is not there' '1, said why' "$(DISPLAY=:58999 \
     "$checkout/simulator/lib/display.py" >"$scratch/why"; echo "$?, $([ -s "$scratch/why" ] && echo said why)")"
 
 finish
