@@ -24,6 +24,7 @@ install(EXPORT mainframeTargets NAMESPACE mainframe:: DESTINATION "${sdk_package
 install(DIRECTORY platform/widgets DESTINATION "${sdk_include}" COMPONENT Sdk FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY common/source/ DESTINATION "${sdk_include}" COMPONENT Sdk
     FILES_MATCHING PATTERN "*.h" PATTERN "xmlfile.h" EXCLUDE)
+install(FILES platform/files/globalsetting.h DESTINATION "${sdk_include}/files" COMPONENT Sdk)
 install(FILES pluginmanager/source/utilinterface.h DESTINATION "${sdk_include}" COMPONENT Sdk)
 install(DIRECTORY cmake/sdk/example-plugin DESTINATION "${CMAKE_INSTALL_DATADIR}/mainframe" COMPONENT Sdk)
 

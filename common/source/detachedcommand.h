@@ -56,8 +56,12 @@ public:
      * none. */
     int fd() const { return m_output.get(); }
 
-    /** Closes the reading end. The command gets SIGPIPE if it writes on. */
-    void closeOutput() { m_output.reset(); }
+    /** Lets go of the command and closes the reading end. The command gets SIGPIPE if it writes on. */
+    void closeOutput()
+    {
+        m_output.reset();
+        m_process.reset();
+    }
 
     /**
      * Sends a signal to the command's whole process group: SIGTERM asks, SIGINT asks as the user would,
@@ -69,7 +73,7 @@ public:
     /**
      * Waits for the end of the command itself, not of what it has started.
      * @return true when it still runs after that time, false when it has ended, or when that cannot be told
-     * (kernels before 5.3)
+     * (after closeOutput(), and by kernels before 5.3)
      */
     bool isRunningAfter(int ms) const;
 

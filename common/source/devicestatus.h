@@ -6,6 +6,10 @@
 // Status records of the devices: plain values, sent once a second as queued signal arguments. Receivers
 // decide what changed. Field names are part of the interface and stay as they are spelled.
 
+/** Makes the records known by name, so that signals carry them from thread to thread; before the first
+ * connection. */
+void registerStatusTypes();
+
 enum SystemGPSStatus { SysStsGPSOnSync = 0, SysStsGPSOnPoor = 1, SysStsGPSNoSync = 2, SysStsGPSOff = 3 };
 
 enum SystemDataCardStatus {

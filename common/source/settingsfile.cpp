@@ -34,7 +34,7 @@ namespace {
 
 constexpr std::chrono::seconds ReadWait(1);
 constexpr int FlushWait = 2000; // ms
-constexpr qint64 MaxFileSize = 1024 * 1024; // bytes; what is larger is none of ours
+constexpr qint64 MaxFileSize = qint64(1024) * 1024; // bytes; what is larger is none of ours
 
 // The file that Qt gives the application below a directory of configurations, and the organization's.
 QStringList fileNames(const QString& directory)
@@ -107,8 +107,15 @@ QString store(const QString& name, const QVariantMap& values)
         return place.errorString();
     const QString draft = place.filePath(QStringLiteral("settings"));
     QFile stored(name);
-    const QByteArray before = openSettings(stored) ? stored.readAll() : QByteArray();
+    const bool isOpen = openSettings(stored);
+    const qint64 size = isOpen ? stored.size() : 0;
+    const QByteArray before = isOpen ? stored.readAll() : QByteArray();
     stored.close();
+    // A pipe or directory holds nothing of anybody's, and what is too large is none of ours; a file that cannot
+    // be read, or not whole, may be.
+    const QFileInfo there(name);
+    if (before.size() < size || (!isOpen && there.isFile() && there.size() <= MaxFileSize))
+        return QStringLiteral("What the file holds can not be read.");
 
     QString reason;
     if (!before.isEmpty() && writeWholeFile(draft, before, &reason) != WriteResult::Ok)

@@ -151,7 +151,7 @@ void write(int fd, const QByteArray& text)
 void writeInSignal(int fd, const char* text, std::size_t size)
 {
     Stream& stream = streamOf(fd);
-    if (take(stream.fd, text, int(size)) == 0)
+    if (take(stream.fd, text, int(size)) < int(size))
         ++stream.lost;
 }
 

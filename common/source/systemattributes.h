@@ -7,7 +7,7 @@ enum class FieldConversion {
     NotSaved, ///< the attribute has no field
     Flag, ///< truth value as 0 or 1
     Number,
-    CompressLevel, ///< 65000 gives 7, 65002 gives 0, the rest 3
+    CompressLevel, ///< LevelHigh gives 7, NoCompress gives 0, the rest 3
     Prompt, ///< the text "prompt" gives 1, the rest 0
     Unit, ///< "english" gives unit_english, the rest unit_metric
     Style, ///< "usa" gives uistyle_usa, the rest uistyle_international

@@ -1,5 +1,6 @@
 #include "systemsettings.h"
 
+#include "compresslevel.h"
 #include "systemattributes.h"
 #include "xmlfile.h"
 
@@ -15,11 +16,6 @@ namespace {
 constexpr const char SharedKey[] = "Unnamed";
 
 constexpr int GpsOff = 3;
-
-// Values of SaveScreenCompressLevel
-constexpr int CompressHigh = 65000;
-constexpr int CompressMiddle = 65001;
-constexpr int CompressNone = 65002;
 
 QString defaultsProfile()
 {
@@ -40,8 +36,8 @@ bool isText(const QString& text, const char* expected)
 QVariant compressLevel(const QString& text)
 {
     if (isText(text, "high"))
-        return CompressHigh;
-    return isText(text, "nocompress") ? CompressNone : CompressMiddle;
+        return LevelHigh;
+    return isText(text, "nocompress") ? NoCompress : LevelMid;
 }
 
 QVariant profileValue(CSystemSettings::SystemAttribute attribute, const QString& text)

@@ -1,3 +1,4 @@
+#include "compresslevel.h"
 #include "fieldtext.h"
 #include "globalsetting.h"
 #include "systemattributes.h"
@@ -12,9 +13,6 @@ namespace {
 
 using S = CSystemSettings;
 using F = FieldConversion;
-
-constexpr const char KeyFile[] = "/usr/local/arvo/share/res/keys/global";
-constexpr int ProjectId = 86;
 
 #define FIELD(NAME) offsetof(stArvo_global_setting, NAME)
 #define CLOCK_FIELD(INDEX) (FIELD(spec_data.clock_source) + (INDEX) * sizeof(qint32))
@@ -101,16 +99,16 @@ qint32 clockSource(const QVariant& value)
 
 qint32 compressLevel(int level)
 {
-    return level == 65000 ? 7 : level == 65002 ? 0 : 3;
+    return level == LevelHigh ? 7 : level == NoCompress ? 0 : 3;
 }
 
 // Null if there is no segment of sufficient size. An identifier of 0 is no segment for any process of the
 // unit.
 stArvo_global_setting* attachSegment()
 {
-    if (!QFileInfo::exists(QString::fromLatin1(KeyFile)))
+    if (!QFileInfo::exists(QString::fromLatin1(GlobalSettingKeyFile)))
         return nullptr;
-    const key_t key = ::ftok(KeyFile, ProjectId);
+    const key_t key = ::ftok(GlobalSettingKeyFile, GlobalSettingProject);
     if (key <= 0)
         return nullptr;
     const int id = ::shmget(key, 0, 0); // never made here

@@ -15,11 +15,12 @@ namespace xmlfile {
 namespace {
 
 // More than any file of ours needs; what stays below is read in half a second.
-constexpr qint64 MaxComparisons = 50'000'000; // of attributes: 10,000 of one element, 500 of each of 400
+constexpr qint64 MaxComparisons
+    = qint64(50) * 1000 * 1000; // of attributes: 10,000 of one element, 500 of each of 400
 constexpr int MaxDeclarations
     = 16384; // characters of a document type, without comments and quoted values: 1000 entities or attributes
 constexpr int MaxAttributes
-    = 200'000; // of all elements: no file holds as many, but a document type adds some
+    = 200 * 1000; // of all elements: no file holds as many, but a document type adds some
 
 // The stream reader compares every attribute of an element with every other, and every declared one with
 // every other, before it shows the first. So they are counted ahead, without what only looks like markup.

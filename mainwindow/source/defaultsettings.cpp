@@ -1,5 +1,7 @@
 #include "defaultsettings.h"
 
+#include "compresslevel.h"
+
 const QVector<DefaultSetting>& defaultSettings()
 {
     using S = CSystemSettings;
@@ -18,7 +20,7 @@ const QVector<DefaultSetting>& defaultSettings()
         {S::ACBacklightChanged, true},
         {S::PasswordVisible, true},
         {S::LockScreenORSaveScreen, true},
-        {S::SaveScreenCompressLevel, 65001}, // medium
+        {S::SaveScreenCompressLevel, LevelMid},
         {S::SaveScreenMaxNum, 50},
         {S::Exist_Module_1, true},
         {S::Exist_Module_2, true},

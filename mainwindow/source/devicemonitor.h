@@ -49,9 +49,9 @@ public:
     void stop();
 
     /**
-     * Where the records of the battery and of Bluetooth come from; without a source they stay as built. Called
-     * in the monitor thread, once a cycle: a source that waits for something does that in a thread of its own
-     * and hands out its last record. To be set before start().
+     * Where the records of the battery and of Bluetooth come from; without a source they stay as built.
+     * Called in the monitor thread, once a cycle: a source that waits for something does that in a thread of
+     * its own and hands out its last record. To be set before start().
      * @return by the source: false when the state cannot be told
      */
     void setPowerSource(std::function<bool(PowerStatus*)> source) { m_powerSource = std::move(source); }

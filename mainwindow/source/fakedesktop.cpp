@@ -1,10 +1,10 @@
 #include "fakedesktop.h"
 
-#include "widgets/widgetstyle/widgetstyle.h"
+#include "screenarea.h"
 
 CFakeDesktop::CFakeDesktop(QWidget* parent)
     : CWidget(parent)
 {
-    resize(800, 460);
+    resize(areaAboveBottomBar().size());
     setBackgroundColor(CWidgetStyle::ColorScreen);
 }

@@ -1,5 +1,6 @@
 #include "focussearch.h"
 
+#include "screenarea.h"
 #include "widgets/widget/widget.h"
 
 #include <QLineF>
@@ -9,8 +10,6 @@ namespace {
 
 constexpr float FARTHEST = 800.0F; // pixels from strip centre to candidate centre
 constexpr int RADIAL_GAP = 5; // pixels between the widget and a radial strip
-constexpr int SCREEN_WIDTH = 800;
-constexpr int SCREEN_HEIGHT = 480;
 
 /** Types of the control library that only group others or cannot be touched. */
 bool isPassive(const CWidget* widget)
@@ -35,6 +34,7 @@ QRect CFocusSearch::getDetectRect(QWidget* widget, int step, DetectDirection dir
 {
     const QRect g = globalRect(widget);
     const int length = step * m_stepLength;
+    const QSize screen = screenArea().size();
     // The right and bottom edges are the last pixels inside: linear strips there overlap the widget by one.
     if (type == LinearDetect) {
         switch (direction) {
@@ -51,23 +51,23 @@ QRect CFocusSearch::getDetectRect(QWidget* widget, int step, DetectDirection dir
     if (type == RadialDetect) {
         switch (direction) {
         case DetectLeft:
-            return {g.left() - length - RADIAL_GAP, 1, length, SCREEN_HEIGHT - 1};
+            return {g.left() - length - RADIAL_GAP, 1, length, screen.height() - 1};
         case DetectUp:
-            return {1, g.top() - RADIAL_GAP - length, SCREEN_WIDTH - 2, length};
+            return {1, g.top() - RADIAL_GAP - length, screen.width() - 2, length};
         case DetectRight:
-            return {g.right() + RADIAL_GAP, 1, length, SCREEN_HEIGHT - 1};
+            return {g.right() + RADIAL_GAP, 1, length, screen.height() - 1};
         case DetectDown:
-            return {1, g.bottom() + RADIAL_GAP, SCREEN_WIDTH - 2, length};
+            return {1, g.bottom() + RADIAL_GAP, screen.width() - 2, length};
         }
     }
-    return {-1, -1, SCREEN_WIDTH + 1, SCREEN_HEIGHT + 1}; // never on the screen: the search ends at once
+    return {-1, -1, screen.width() + 1, screen.height() + 1}; // never on the screen: the search ends at once
 }
 
 bool CFocusSearch::canDetectTo(const QRect& strip) const
 {
     // The window stands for the whole screen, the strip of a bottom bar included: radial strips are that
     // high.
-    return m_pRoot->rect().united(QRect(0, 0, SCREEN_WIDTH, SCREEN_HEIGHT)).contains(strip);
+    return m_pRoot->rect().united(screenArea()).contains(strip);
 }
 
 QWidget* CFocusSearch::findChildAt(const QRect& strip, const QWidget* from) const

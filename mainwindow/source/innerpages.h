@@ -5,6 +5,7 @@
 #include <QHash>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 class CWidget;
@@ -22,7 +23,7 @@ public:
     using Make = std::function<CWidget*()>;
 
     void add(UtilityID id, CWidget* page) { m_pages.insert(id, page); }
-    void addLater(UtilityID id, Make make) { m_makers.insert(id, std::move(make)); }
+    void addLater(UtilityID id, const Make& make) { m_makers.insert(id, make); }
     /** Done once by runLaunchWork(), in the order added. */
     void addLaunchWork(std::function<void()> work) { m_launchWork.push_back(std::move(work)); }
 

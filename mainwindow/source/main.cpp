@@ -2,13 +2,12 @@
 #include "detachedcommand.h"
 #include "mainapplication.h"
 #include "mainwindow.h"
+#include "startup.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QFile>
 #include <QTextCodec>
 #include <QTranslator>
-
-#include "startup.h"
 
 #include <csignal>
 #include <memory>

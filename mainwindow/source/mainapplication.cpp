@@ -38,7 +38,7 @@ void CMainApplication::reportException(const QMetaObject* receiver, const char* 
     }
     // The handler may still be a plug-in's, connected to an object of Qt's: the one in front is the first
     // guess.
-    const auto* plugins = m_pMainWindow && QThread::currentThread() == thread()
+    const auto* plugins = QThread::currentThread() == thread() && m_pMainWindow
         ? m_pMainWindow->findChild<CPluginManager*>()
         : nullptr;
     qCritical("Exception in an event of %s, plug-in %s in front: %s",

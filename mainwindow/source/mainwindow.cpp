@@ -7,6 +7,7 @@
 #include "homepage.h"
 #include "infopages.h"
 #include "pluginman.h"
+#include "screenarea.h"
 #include "screenshots.h"
 #include "settingmoremenu.h"
 #include "sigtransfer.h"
@@ -31,7 +32,6 @@
 
 namespace {
 
-constexpr int BOTTOM_STRIP = 20; // the screen's height that the window leaves to a bottom bar
 constexpr int CENTRE_SHIFT = 4; // dialogs stand a little to the right of the exact centre
 constexpr int FAILURE_CHECK_PERIOD = 5000; // ms
 constexpr int SETTINGS_CHECK_PERIOD = 1000; // ms
@@ -89,8 +89,7 @@ void CMainWindow::initialize()
     connect(g_pSigTransfer, &CSigTransfer::queryBTInfo, this, &CMainWindow::showBTInfo);
     connect(this, &CMainWindow::lockStateChanged, g_pSigTransfer, &CSigTransfer::lockStateChanged);
 
-    const QRect screen = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionScreen);
-    resize(screen.width(), screen.height() - BOTTOM_STRIP);
+    resize(areaAboveBottomBar().size());
     setBackgroundColor(CWidgetStyle::ColorScreen);
 
     m_pTopBar = new CTopBar(this);
@@ -139,6 +138,7 @@ void CMainWindow::createTimers()
     m_pAppLaunchTimer->setInterval(APP_LAUNCH_PERIOD);
     m_pSwitchDelayTimer = new QTimer(this);
     m_pSwitchDelayTimer->setSingleShot(true);
+    connect(m_pSwitchDelayTimer, &QTimer::timeout, this, &CMainWindow::procDelayUnlock);
     m_pBatBacklightTimer = new QTimer(this);
     m_pACBacklightTimer = new QTimer(this);
     connect(this, &CMainWindow::windowVisibleChanged, this, &CMainWindow::setWindowVisible);
@@ -207,13 +207,7 @@ void CMainWindow::createPages()
 void CMainWindow::createDeviceMonitor()
 {
     m_pDevMonitor = new CUsbdMonitor(this);
-    qRegisterMetaType<PowerStatus>("PowerStatus");
-    qRegisterMetaType<BluetoothStatus>("BluetoothStatus");
-    qRegisterMetaType<StorageStatus>("StorageStatus");
-    qRegisterMetaType<WIFIStatus>("WIFIStatus");
-    qRegisterMetaType<OPMStatus>("OPMStatus");
-    qRegisterMetaType<GPSStatus>("GPSStatus");
-    qRegisterMetaType<DataCardStatus>("DataCardStatus");
+    registerStatusTypes();
 
     using Monitor = CDeviceMonitor;
     using Relay = CSigTransfer;
@@ -231,7 +225,7 @@ void CMainWindow::createDeviceMonitor()
 
 QPoint CMainWindow::screenCenter()
 {
-    const QRect screen = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionScreen);
+    const QRect screen = screenArea();
     return {screen.x() + screen.width() / 2, screen.y() + screen.height() / 2};
 }
 

@@ -54,7 +54,8 @@ class QTranslator;
  * signalHandler(). Its files: mainwindow.cpp (construction and wiring), _menu, _switching, _visibility,
  * _launch, _language, _signals, _navigation, _devices (what only hands on).
  *
- * Whatever changes the page or the screen is a transition, one at a time (CTransitions).
+ * Whatever changes the page, the language or who has the screen is a transition, one at a time
+ * (CTransitions).
  *
  * A new built-in page is one line in createPages(); for a utility without one a box says so.
  */
@@ -325,5 +326,6 @@ private:
     CInnerPages m_innerPages;
     bool m_isTerminating = false;
     bool m_isPainted = false; // the first complete frame
-    bool m_isUtilStarting = false; // the start window is up and the plug-in not loaded yet
+    /** Of the utility now shown: not a plug-in, or one that failed; the start window is up; its page is. */
+    enum class PluginState { None, Starting, Up } m_pluginState = PluginState::None;
 };

@@ -4,7 +4,10 @@
 
 #include "devicemonitor.h"
 #include "pluginman.h"
+#include "shellservice.h"
+#include "standardstreams.h"
 
+#include <QDeadlineTimer>
 #include <QDebug>
 #include <QEvent>
 #include <QEventLoop>
@@ -12,16 +15,31 @@
 #include <QTimer>
 #include <QX11Info>
 
-#include "startup.h"
-
+// Behind the Qt headers: its macros collide with their names.
 #include <X11/Xatom.h>
+#include <X11/Xlib.h>
+
+#include <cerrno>
+#include <poll.h>
+#include <unistd.h>
 
 namespace {
 
 constexpr int FIRST_PAINT_LIMIT = 2000; // ms; a window that nobody maps is not waited for any longer
-constexpr unsigned long LAUNCH_SETTLE = 2000; // ms
+constexpr int LAUNCH_SETTLE = 2000; // ms
 
 constexpr UtilityID RESIDENT_PLUGINS[] = {UTILITY_ID_WIFI_WIZARD, UTILITY_ID_DATE_TIME, UTILITY_ID_IP_TOOLS};
+
+/** X error handler: prints the error and goes on. */
+int x_error_handler(Display* display, XErrorEvent* error)
+{
+    char text[1024] = "";
+    XGetErrorText(display, error->error_code, text, sizeof text);
+    // The plain "n" at the end is part of the format.
+    standardstreams::write(STDERR_FILENO,
+        ":: X Error - " + QByteArray(text) + " (" + QByteArray::number(error->request_code) + ")n");
+    return 0;
+}
 
 Atom appIndexAtom(Display* display)
 {
@@ -46,6 +64,14 @@ int readAppIndex(Display* display, Window window, Atom atom)
     if (data)
         XFree(data);
     return index;
+}
+
+/** Holds the event loop on purpose; only the word that the process is to end makes it shorter. */
+void settle(int wordOfTheEnd)
+{
+    const QDeadlineTimer deadline(LAUNCH_SETTLE);
+    pollfd entry = {wordOfTheEnd, POLLIN, 0};
+    while (::poll(&entry, 1, int(deadline.remainingTime())) < 0 && errno == EINTR) { }
 }
 
 } // namespace
@@ -103,8 +129,9 @@ void CMainWindow::postLaunch()
     m_pDevMonitor->start(QThread::InheritPriority);
     m_pDevMonitor->wakeupScreen(m_powerStat.bIsBat, 1);
     m_innerPages.runLaunchWork();
-    autoLoadPlugins();
-    QThread::msleep(LAUNCH_SETTLE);
+    m_transitions.perform([this] { autoLoadPlugins(); });
+    settle(signalFd[1]);
+    new CShellService(this); // the window owns it
     m_pSystemTimer->start();
     selftestPopup();
     m_pFailureServTimer->start();
@@ -116,4 +143,6 @@ void CMainWindow::autoLoadPlugins()
         if (m_pPluginMan->loadPlugin(id))
             m_pPluginMan->runPluginInBackground(this);
     }
+    if (m_pluginState == PluginState::Up) // another process asked for it before; it is the current one again
+        m_pPluginMan->loadPlugin(m_prevUtilID);
 }

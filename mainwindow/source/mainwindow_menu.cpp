@@ -228,7 +228,8 @@ void CMainWindow::triggerClose()
     m_transitions.request(CTransitions::Utility, [this] {
         // The calibration below asks before anything is left: refused, all stays as it is.
         const int steps = m_pMenuStack->count();
-        if (steps > 1 && m_pMenuStack->entries().at(steps - 2).entryID == UTILITY_ID_SCREEN) {
+        if (steps > 1 && !isFileEntry(m_pMenuStack->top().entryID)
+            && m_pMenuStack->entries().at(steps - 2).entryID == UTILITY_ID_SCREEN) {
             const int top = m_pMenuStack->top().entryID;
             if (!confirmCalibration() || m_pMenuStack->count() != steps || m_pMenuStack->top().entryID != top)
                 return;

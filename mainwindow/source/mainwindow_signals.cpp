@@ -5,12 +5,11 @@
 
 #include "logwrite.h"
 #include "pluginman.h"
+#include "startup.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QSocketNotifier>
-
-#include "startup.h"
 
 #include <atomic>
 #include <cerrno>
@@ -22,7 +21,7 @@ namespace {
 
 constexpr unsigned END_LIMIT = 5; // seconds from the signal
 
-std::atomic<bool> isEndUnlimited{false}; // until the first signal; only where limitEnd() was called
+std::atomic<bool> isLimitToBeSet{false}; // by the first signal; only where limitEnd() was called
 
 void endByForce(int)
 {
@@ -48,7 +47,7 @@ void limitEnd()
     sigemptyset(&alarms);
     sigaddset(&alarms, SIGALRM);
     pthread_sigmask(SIG_UNBLOCK, &alarms, nullptr);
-    isEndUnlimited = true;
+    isLimitToBeSet = true;
 }
 
 void CMainWindow::signalInit()
@@ -79,7 +78,7 @@ void CMainWindow::signalHandler(int sig)
         const ssize_t written = ::send(signalFd[0], &byte, sizeof byte, MSG_DONTWAIT | MSG_NOSIGNAL);
         Q_UNUSED(written)
     }
-    if (isEndUnlimited.exchange(false))
+    if (isLimitToBeSet.exchange(false))
         ::alarm(END_LIMIT);
     errno = savedErrno;
 }
@@ -89,6 +88,7 @@ void CMainWindow::handleSignal()
     qDebug("###Signal handleSignal ready to save profile");
     snTerminate->setEnabled(false);
     m_isTerminating = true;
+    m_transitions.close();
     if (signalFd[1]) {
         char byte = 0;
         while (::read(signalFd[1], &byte, sizeof byte) < 0 && errno == EINTR) { }

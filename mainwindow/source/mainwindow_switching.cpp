@@ -89,10 +89,10 @@ void CMainWindow::startPlugin(UtilityID id)
     m_pStartUtilWnd->raise();
     if (id == UTILITY_ID_BROWSER) {
         m_pTouches->set(&TouchState::isBrowserStarting, true);
-        QTimer::singleShot(BROWSER_INPUT_LOCK, this, &CMainWindow::procDelayUnlock);
+        m_pSwitchDelayTimer->start(BROWSER_INPUT_LOCK); // anew for one that is opened again
     }
     m_CallerID = m_prevUtilID;
-    m_isUtilStarting = true;
+    m_pluginState = PluginState::Starting;
     m_pTaskMan->startUtil(id);
 }
 
@@ -102,7 +102,7 @@ void CMainWindow::utilReady(int id)
         // The user may have gone elsewhere while the start window was up, and even come back: then two words
         // of readiness arrive, and the first one counts.
         const auto util = UtilityID(id);
-        if (util != m_prevUtilID || !m_isUtilStarting)
+        if (util != m_prevUtilID || m_pluginState != PluginState::Starting)
             return;
         std::optional<QString> error;
         m_transitions.perform([&] { error = loadAndStart(util); });
@@ -113,15 +113,18 @@ void CMainWindow::utilReady(int id)
 
 std::optional<QString> CMainWindow::loadAndStart(UtilityID id)
 {
-    m_isUtilStarting = false;
+    m_pluginState = PluginState::None;
     m_pPluginMan->clearError(); // what an earlier utility left
     if (!m_pPluginMan->loadPlugin(id))
         return m_pPluginMan->errorString();
     m_pTouches->set(&TouchState::isCalibrating, id == UTILITY_ID_SCREEN); // it owns all input
     const bool isStarted = m_pPluginMan->startPlugin(this, m_CallerID);
+    if (m_isTerminating)
+        return {}; // the end came in its own event loop, and has other plug-ins to call
     if (QObject* object = m_pPluginMan->getPluginObject())
         connectPluginSignals(object);
     if (isStarted) {
+        m_pluginState = PluginState::Up;
         m_pStartUtilWnd->hide(); // a page that does not fill its ground would show it
         return {};
     }
@@ -166,7 +169,7 @@ void CMainWindow::procDelayUnlock()
 
 void CMainWindow::leavePlugin()
 {
-    m_isUtilStarting = false;
+    m_pluginState = PluginState::None;
     m_pStartUtilWnd->hide();
     m_pPluginMan->unloadPlugin();
     m_pTouches->set(&TouchState::isCalibrating, false);
@@ -199,7 +202,7 @@ void CMainWindow::showHomePage()
 
 void CMainWindow::hideCurrentUtilPage()
 {
-    if (m_pPluginMan->isPlugin(m_prevUtilID))
+    if (m_pluginState == PluginState::Up)
         m_pPluginMan->setPluginWindowVisible(false);
     else if (CWidget* page = innerPage(m_prevUtilID))
         page->hide();
@@ -209,7 +212,7 @@ void CMainWindow::hideCurrentUtilPage()
 
 void CMainWindow::showCurrentUtilPage()
 {
-    if (m_pPluginMan->isPlugin(m_prevUtilID)) {
+    if (m_pluginState == PluginState::Up) {
         m_pPluginMan->setPluginWindowVisible(true);
     } else if (CWidget* page = innerPage(m_prevUtilID)) {
         page->show();
@@ -243,6 +246,6 @@ QString CMainWindow::switchMessage() const
 
 void CMainWindow::updateCurrentUtilPage()
 {
-    if (m_pPluginMan->isPlugin(m_prevUtilID))
+    if (m_pluginState == PluginState::Up)
         m_pPluginMan->updatePluginWindow();
 }

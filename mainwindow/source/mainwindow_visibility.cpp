@@ -4,6 +4,7 @@
 
 #include "fakedesktop.h"
 #include "infopages.h"
+#include "screenarea.h"
 #include "topbar.h"
 #include "widgets/dialog/dialog.h"
 #include "widgets/toolbox/toolbox.h"
@@ -12,15 +13,13 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QThread>
+#include <QTimer>
 
 namespace {
 
 // Long enough for the X server and the test application to settle; the event loop stands still meanwhile.
 constexpr unsigned long SETTLE_AFTER_HIDING = 500; // ms
 constexpr unsigned long SETTLE_BEFORE_SHOWING = 200; // ms
-
-constexpr int AREA_WIDTH = 800; // of the screen above the bottom bar
-constexpr int AREA_HEIGHT = 460;
 
 } // namespace
 
@@ -70,6 +69,9 @@ void CMainWindow::setDialogsAside(bool aside)
 
 void CMainWindow::setVisibleReason(VisibleReason reason)
 {
+    // The window was away as a whole when the browser's time was over, which then changed nothing.
+    if (m_winVisibleReason == OtherReason && !m_pSwitchDelayTimer->isActive())
+        m_pTouches->set(&TouchState::isBrowserStarting, false);
     m_winVisibleReason = reason;
     m_pTouches->set(&TouchState::isTestAppInFront, reason == TestAppForeground);
 }
@@ -95,8 +97,9 @@ void CMainWindow::setWindowShown(VisibleReason reason)
 void CMainWindow::blockAppAreaUpdate()
 {
     const QRect window = rect();
-    setMask(QRegion(QPolygon({QPoint(0, AREA_HEIGHT), QPoint(window.left(), window.bottom() + 2),
-        QPoint(window.right() + 2, window.bottom() + 2), QPoint(AREA_WIDTH + 2, AREA_HEIGHT)})));
+    const QSize area = areaAboveBottomBar().size();
+    setMask(QRegion(QPolygon({QPoint(0, area.height()), QPoint(window.left(), window.bottom() + 2),
+        QPoint(window.right() + 2, window.bottom() + 2), QPoint(area.width() + 2, area.height())})));
 }
 
 void CMainWindow::recoverAppAreaUpdate()
@@ -127,7 +130,7 @@ void CMainWindow::paintNow()
 void CMainWindow::grabFakeDesktop()
 {
     const QPixmap screen = QGuiApplication::primaryScreen()->grabWindow(0);
-    m_pFakeDesk->setBackgroundImage(screen.copy(0, 0, AREA_WIDTH, AREA_HEIGHT));
+    m_pFakeDesk->setBackgroundImage(screen.copy(areaAboveBottomBar()));
 }
 
 void CMainWindow::setFakeDesktopVisible(bool visible)

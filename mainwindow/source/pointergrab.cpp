@@ -5,11 +5,15 @@
 
 #include <cstdlib>
 #include <memory>
+#include <utility>
 #include <xcb/xcb.h>
 
 namespace {
 
-constexpr int RETRY_PERIOD = 100; // ms
+// How often the pointer is looked at, in ms: until it is had, and then, since another client may take it
+// later.
+constexpr int RETRY_PERIOD = 100;
+constexpr int WATCH_PERIOD = 1000;
 
 template <typename T> using XcbPtr = std::unique_ptr<T, decltype(&std::free)>;
 
@@ -31,6 +35,7 @@ bool isPointerFree(xcb_connection_t* display, xcb_window_t root)
     if (!reply || reply->status != XCB_GRAB_STATUS_SUCCESS)
         return false;
     xcb_ungrab_pointer(display, XCB_CURRENT_TIME);
+    xcb_flush(display);
     return true;
 }
 
@@ -39,36 +44,37 @@ bool isPointerFree(xcb_connection_t* display, xcb_window_t root)
 CPointerGrab::CPointerGrab(QObject* parent)
     : QObject(parent)
 {
-    m_retry.setInterval(RETRY_PERIOD);
-    connect(&m_retry, &QTimer::timeout, this, &CPointerGrab::tryToGrab);
+    connect(&m_timer, &QTimer::timeout, this, &CPointerGrab::tryToGrab);
 }
 
 void CPointerGrab::set(bool wanted)
 {
     xcb_connection_t* display = QX11Info::connection();
-    if (!display || wanted == (m_isHeld || m_retry.isActive()))
+    if (!display || wanted == m_timer.isActive())
         return;
     if (wanted) {
+        m_isHeld = true; // so that a failure is told
         tryToGrab();
-        if (!m_isHeld) {
-            qWarning("Another client holds the pointer: touches are not locked yet");
-            m_retry.start();
-        }
         return;
     }
-    m_retry.stop();
+    m_timer.stop();
     m_isHeld = false;
-    xcb_ungrab_button(display, XCB_BUTTON_INDEX_ANY, QX11Info::appRootWindow(), XCB_MOD_MASK_ANY);
-    xcb_flush(display);
+    // Checked, so that it is done when this returns: the next touch may come at once.
+    const auto request = xcb_ungrab_button_checked(
+        display, XCB_BUTTON_INDEX_ANY, xcb_window_t(QX11Info::appRootWindow()), XCB_MOD_MASK_ANY);
+    const XcbPtr<xcb_generic_error_t> error(xcb_request_check(display, request), &std::free);
+    if (error)
+        qWarning("Can not let go of the pointer: X error %d", int(error->error_code));
 }
 
 void CPointerGrab::tryToGrab()
 {
     xcb_connection_t* display = QX11Info::connection();
     const auto root = xcb_window_t(QX11Info::appRootWindow());
-    m_isHeld = grabButtons(display, root) && isPointerFree(display, root);
-    if (m_isHeld && m_retry.isActive()) {
-        m_retry.stop();
+    const bool wasHeld = std::exchange(m_isHeld, grabButtons(display, root) && isPointerFree(display, root));
+    if (wasHeld && !m_isHeld)
+        qWarning("Another client holds the pointer: touches are not locked");
+    else if (!wasHeld && m_isHeld)
         qWarning("The pointer is free again: touches are locked");
-    }
+    m_timer.start(m_isHeld ? WATCH_PERIOD : RETRY_PERIOD);
 }

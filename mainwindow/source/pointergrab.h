@@ -6,8 +6,8 @@
  * Keeps every touch of the screen from all clients of the X server, this process included, by a grab of all
  * buttons on the root window.
  *
- * Another client may hold the pointer at that moment; then the grab is tried again until it is had, which the
- * log tells. Without an X server nothing happens. Interface thread.
+ * Another client may hold the pointer at that moment, or take it later; then the grab is tried again until it
+ * is had, and the log tells of both. Without an X server nothing happens. Interface thread.
  */
 class CPointerGrab : public QObject
 {
@@ -24,6 +24,6 @@ public:
 private:
     void tryToGrab();
 
-    QTimer m_retry;
+    QTimer m_timer; // runs while the grab is wanted
     bool m_isHeld = false;
 };

@@ -1,13 +1,13 @@
 // What the shell makes sure of before there is anything of it: its process, and that it is the only one.
 
+#include "startup.h"
+
 #include "filedescriptor.h"
 #include "standardstreams.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
 #include <QThread>
-
-#include "startup.h"
 
 #include <cerrno>
 #include <csignal>
@@ -35,6 +35,8 @@ CFileDescriptor openLockFile()
 {
     CFileDescriptor file(
         ::open(LOCK_FILE, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY, 0644));
+    if (!file.isValid() && errno == EACCES) // another user's, which locks as well
+        file.reset(::open(LOCK_FILE, O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
     struct stat status = {};
     if (file.isValid() && (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))) {
         file.reset();

@@ -4,10 +4,15 @@
 #include "widgets/widgetstyle/widgetstyle.h"
 #include "windowhost.h"
 
+#include <QDebug>
+#include <QScopeGuard>
+
+#include <bitset>
 #include <iterator>
 
 namespace {
 
+constexpr int LOGGED = 200; // characters
 constexpr int AsBuilt = -1; // as the library makes it
 
 /** How a box looks: colour codes of the theme, text sizes in pixels. */
@@ -51,9 +56,20 @@ static_assert(isInOrder(), "a row a box, in the order of the enumeration");
 
 bool execShellBox(ShellBox kind, CWindowHost& host, const QString& title, const QString& text)
 {
+    // One at a time of each kind: what asks for it while it is up asks from inside its event loop, and boxes
+    // that nobody has answered would pile up.
+    static std::bitset<std::size(LOOKS)> up;
+    const auto index = size_t(kind);
+    if (up[index]) {
+        qWarning("Box is up already; not shown: %s", qPrintable(text.left(LOGGED)));
+        return false;
+    }
+    up.set(index);
+    const auto gone = qScopeGuard([index] { up.reset(index); });
+
     const BoxLook& look = lookOf(kind);
     CMessageBox box(title, text, CMessageBox::Buttons(look.buttons), host.dialogParent());
-    const auto set = [&box](void (CMessageBox::*setter)(int), int value) {
+    const auto set = [&box](auto setter, int value) {
         if (value != AsBuilt)
             (box.*setter)(value);
     };
@@ -62,7 +78,8 @@ bool execShellBox(ShellBox kind, CWindowHost& host, const QString& title, const 
     set(&CMessageBox::setTitleTextSize, look.titleSize);
     set(&CMessageBox::setMessageTextColor, look.messageColor);
     set(&CMessageBox::setMessageTextSize, look.messageSize);
-    if (kind == ShellBox::PluginError && host.isTestAppInFront())
+    // What happens behind a test application waits for the shell; a failure of the unit does not.
+    if (kind != ShellBox::SystemFailure && host.isTestAppInFront())
         QObject::connect(&box, &CDialog::popOn, &box, [&box] { box.setAside(true); });
     host.moveToWorkingAreaCenter(&box);
     return box.exec() == CMessageBox::Ok;

@@ -1,4 +1,7 @@
+#include "startup.h"
+
 #include "commutils.h"
+#include "logwrite.h"
 #include "mainwindow.h"
 #include "standardstreams.h"
 #include "wholefile.h"
@@ -9,9 +12,6 @@
 #include <QFileInfo>
 #include <QStorageInfo>
 #include <QThread>
-
-#include "logwrite.h"
-#include "startup.h"
 
 #include <cerrno>
 #include <csignal>
@@ -166,14 +166,4 @@ void exit_sig_handler(int sig)
 void poweroff_sig_handler(int sig)
 {
     CLogLine("poweroff_sig_handler signo=").number(sig).write(STDOUT_FILENO);
-}
-
-int x_error_handler(Display* display, XErrorEvent* error)
-{
-    char text[1024] = "";
-    XGetErrorText(display, error->error_code, text, sizeof text);
-    // The plain "n" at the end is part of the format.
-    standardstreams::write(STDERR_FILENO,
-        ":: X Error - " + QByteArray(text) + " (" + QByteArray::number(error->request_code) + ")n");
-    return 0;
 }

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <X11/Xlib.h>
-// Xlib's macros collide with Qt's names; what includes this file includes the Qt headers first.
-
 /**
  * Makes sure that the configuration directories and the four configuration files exist and are readable; a
  * file that is not is replaced by its built-in default. What could not be read is kept beside it under the
@@ -43,6 +40,3 @@ void clearScreen(int value);
 void exit_sig_handler(int sig);
 /** Prints the signal number. Not installed by the start-up. */
 void poweroff_sig_handler(int sig);
-
-/** X error handler: prints the error and goes on. */
-int x_error_handler(Display* display, XErrorEvent* error);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "compresslevel.h"
+
 /** Window identifiers of the shell's dialogs (CDialog::getWindowID). */
 enum PopupWindowID {
     POPUP_WND_ID_BEGIN = 64600,
@@ -26,6 +28,3 @@ enum InquireSysStatCode {
     INQUIRE_SYS_STAT_NONE = 65242,
     INQUIRE_SYS_STAT_END = 65243
 };
-
-/** Values of the SaveScreenCompressLevel setting. */
-enum SaveScreenCompressLevel { LevelHigh = 65000, LevelMid = 65001, NoCompress = 65002 };

@@ -9,6 +9,8 @@
 #include <QFileSystemWatcher>
 #include <QTimer>
 
+#include <sys/stat.h>
+
 namespace {
 
 constexpr unsigned long START_DELAY = 100; // ms
@@ -27,6 +29,18 @@ QStringList pathTo(const QString& directory)
 {
     const QString parent = QFileInfo(directory).path();
     return directory == parent ? QStringList() : pathTo(parent) << directory;
+}
+
+/** Which directories stand there, 0 for none. */
+QVector<quint64> identities(const QStringList& directories)
+{
+    QVector<quint64> numbers;
+    for (const QString& directory : directories) {
+        struct stat state = {};
+        numbers << (::stat(QFile::encodeName(directory).constData(), &state) == 0 ? quint64(state.st_ino)
+                                                                                  : 0);
+    }
+    return numbers;
 }
 
 } // namespace
@@ -66,10 +80,15 @@ void CTaskManager::initFSWatcher()
 // the look at an inner one is then told.
 void CTaskManager::watchSessions()
 {
+    const QStringList directories = pathTo(CUICommUtils::getVNCSessionMarkFileDirPath());
+    // Mostly something else has changed: the outer directories are everybody's.
+    const QVector<quint64> present = identities(directories);
+    if (present == m_watched)
+        return;
+    m_watched = present;
     const QStringList watched = m_pFSWatcher->directories();
     if (!watched.isEmpty())
         m_pFSWatcher->removePaths(watched); // of one that was moved away the old place would still be watched
-    const QStringList directories = pathTo(CUICommUtils::getVNCSessionMarkFileDirPath());
     for (const QString& directory : directories) {
         if (QFileInfo(directory).isDir() && !m_pFSWatcher->addPath(directory))
             qWarning().noquote() << "Can not watch" << directory << "- remote viewers may not be counted";

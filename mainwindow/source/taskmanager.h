@@ -63,4 +63,5 @@ private:
     std::atomic<int> m_utilID{-1}; // -1: nothing asked for
     QFileSystemWatcher* m_pFSWatcher = nullptr;
     int m_vncSessionCount = 0;
+    QVector<quint64> m_watched; // which directories, by their numbers in the file system
 };

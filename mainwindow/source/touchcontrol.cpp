@@ -1,12 +1,18 @@
 #include "touchcontrol.h"
 
 #include "commutils.h"
+#include "filedescriptor.h"
 #include "pointergrab.h"
+#include "screenarea.h"
 #include "touchwatch.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -14,9 +20,9 @@ QRect regionOf(CTouchControl::NonInteractiveRegionType type, const QRect& custom
 {
     switch (type) {
     case CTouchControl::FullScreen:
-        return {0, 0, 800, 480};
+        return screenArea();
     case CTouchControl::ExcludeBottomBar:
-        return {0, 0, 800, 460};
+        return areaAboveBottomBar();
     case CTouchControl::CutomizeRegion:
         return custom;
     default:
@@ -44,12 +50,15 @@ void CTouchControl::set(bool TouchState::*field, bool on)
 
 void CTouchControl::setLocked(bool locked)
 {
-    QFile mark(CUICommUtils::getLockScreenMarkFileName());
-    if (locked && !mark.exists()) {
-        if (!mark.open(QIODevice::ReadWrite))
-            qWarning().noquote() << "Can not create" << mark.fileName() << '-' << mark.errorString();
-    } else if (!locked && mark.exists()) {
-        mark.remove();
+    const QByteArray mark = QFile::encodeName(CUICommUtils::getLockScreenMarkFileName());
+    if (!locked) {
+        ::unlink(mark.constData()); // mostly it is there
+    } else {
+        // A link of the name must not lead elsewhere, and a pipe must not hold this thread.
+        const CFileDescriptor file(::open(
+            mark.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY, 0644));
+        if (!file.isValid())
+            qWarning().noquote() << "Can not create" << mark << '-' << qt_error_string(errno);
     }
     set(&TouchState::isLocked, locked);
 }
@@ -58,6 +67,8 @@ void CTouchControl::request(NonInteractiveRegionType type, const QRect& region)
 {
     m_requestedType = type;
     m_requestedRegion = region;
+    if (type != ExcludeBottomBar && type != CutomizeRegion) // these two leave the grab as it was asked for
+        m_isGrabRequested = type == FullScreen;
     update();
 }
 
@@ -66,27 +77,23 @@ void CTouchControl::update()
     m_state.isDialogUp = m_pWatch->isDialogUp();
     switch (touchOwner(m_state)) {
     case TouchOwner::Nobody:
-        publish(FullScreen);
+        publish(FullScreen, true);
         break;
     case TouchOwner::Shell:
-        publish(RegionNone);
+        publish(RegionNone, false);
         break;
     case TouchOwner::TestApplication:
-        m_pGrab->set(false); // the grab of the whole screen would keep its touches from it
-        publish(ExcludeBottomBar);
+        publish(ExcludeBottomBar, false);
         break;
     case TouchOwner::AsRequested:
-        publish(m_requestedType);
+        publish(m_requestedType, m_isGrabRequested);
         break;
     }
 }
 
-void CTouchControl::publish(NonInteractiveRegionType type)
+void CTouchControl::publish(NonInteractiveRegionType type, bool isGrabbed)
 {
-    if (type == FullScreen)
-        m_pGrab->set(true);
-    else if (type != ExcludeBottomBar && type != CutomizeRegion) // these two leave the grab as it is
-        m_pGrab->set(false);
+    m_pGrab->set(isGrabbed);
     const QRect region = regionOf(type, m_requestedRegion);
     QCoreApplication::instance()->setProperty("NonInteractiveRegion", region);
     emit regionChanged(type, region);

@@ -43,11 +43,12 @@ signals:
 
 private:
     void update();
-    void publish(NonInteractiveRegionType type);
+    void publish(NonInteractiveRegionType type, bool isGrabbed);
 
     TouchState m_state;
     NonInteractiveRegionType m_requestedType = RegionNone;
     QRect m_requestedRegion;
+    bool m_isGrabRequested = false;
     CTouchWatch* m_pWatch;
     CPointerGrab* m_pGrab;
 };

@@ -1,11 +1,11 @@
 #include "transitions.h"
 
-#include <QScopeGuard>
-
 #include <utility>
 
 void CTransitions::request(Kind kind, Work work)
 {
+    if (m_isClosed)
+        return;
     if (!m_isUnderWay) {
         work();
         return;
@@ -22,11 +22,26 @@ void CTransitions::perform(const Work& work)
         work();
         return;
     }
-    {
-        m_isUnderWay = true;
-        const auto over = qScopeGuard([this] { m_isUnderWay = false; });
+    m_isUnderWay = true;
+    try {
         work();
+    } catch (...) { // whoever catches it, the window goes on
+        m_isUnderWay = false;
+        serveWaiting();
+        throw;
     }
+    m_isUnderWay = false;
+    serveWaiting();
+}
+
+void CTransitions::close()
+{
+    m_isClosed = true;
+    m_waiting.clear();
+}
+
+void CTransitions::serveWaiting()
+{
     // Taken out before it is done: it may be a transition itself, and then serves what is left.
     while (!m_waiting.empty()) {
         const auto first = m_waiting.begin();

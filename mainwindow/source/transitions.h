@@ -36,8 +36,13 @@ public:
     void request(Kind kind, Work work);
     /** Does the work as a transition, or as a part of the one under way; then all that waited. */
     void perform(const Work& work);
+    /** The end has begun: what waits is dropped, and what is asked for from now on. */
+    void close();
 
 private:
+    void serveWaiting();
+
     std::map<Kind, std::vector<Work>> m_waiting;
     bool m_isUnderWay = false;
+    bool m_isClosed = false;
 };

@@ -2,13 +2,12 @@
 
 #include <QString>
 #include <condition_variable>
+#include <deque>
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <string>
 #include <thread>
-
-struct sd_bus;
 
 namespace serv {
 
@@ -16,8 +15,9 @@ namespace serv {
  * This process's link to the platform's services on the system bus.
  *
  * A call waits at most AnswerLimit for its answer. When that time passes, the platform counts as away and
- * further calls fail at once, without waiting, until it is heard of again: the late answer itself (which is
- * dropped), the bus's word that the service has ended, or the bus coming up. So a service that hangs costs
+ * further calls fail at once, without waiting, until the call has ended: by its late answer (which is
+ * dropped), by the bus's word that the service has ended, or with the connection, which the library gives up
+ * when a new bus keeps silent. So a service that hangs costs
  * AnswerLimit once, not once a call. A bus or a service that does not run is told apart at once and costs
  * nothing.
  *
@@ -56,16 +56,21 @@ public:
 
 private:
     struct Call;
-    class Worker;
+    class Bus;
 
     bool start();
+    void work();
+    bool connect(Bus& bus);
 
     const std::string m_address;
-    mutable std::mutex m_mutex;
-    std::condition_variable m_answered;
-    std::unique_ptr<Worker> m_worker;
-    std::thread m_thread;
+    mutable std::mutex m_mutex; // for the next four
+    std::deque<std::shared_ptr<Call>> m_queue;
+    int m_socket = -1; // of the connection; closed by the thread only
+    bool m_stop = false;
     bool m_away = false;
+    std::condition_variable m_asked;
+    std::condition_variable m_answered;
+    std::thread m_thread;
 };
 
 } // namespace serv

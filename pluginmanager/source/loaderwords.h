@@ -3,8 +3,8 @@
 #include <QtGlobal>
 
 /**
- * What Qt's plug-in loader says, in Qt's own contexts: the "Load plugin" box shows it, so it is translated with
- * the shell's texts. Nothing uses this table; lupdate finds the texts here.
+ * What Qt's plug-in loader says, in Qt's own contexts: the "Load plugin" box shows it, so it is translated
+ * with the shell's texts. Nothing uses this table; lupdate finds the texts here.
  */
 [[maybe_unused]] constexpr const char* LOADER_WORDS[] = {
     QT_TRANSLATE_NOOP("QLibrary", "'%1' is an invalid ELF object (%2)"),

@@ -14,23 +14,17 @@ namespace {
 
 // Pixels
 constexpr int Width = 540;
-constexpr int TitleHeight = 48;
-constexpr int TitleTextSize = 24;
-constexpr int TextSize = 18;
 constexpr int Margin = 24;
 constexpr int NameWidth = 236;
 constexpr int RowHeight = 40;
 constexpr int PictureSize = 60;
 constexpr int PictureInset = 4; // clear edge of the picture, so that its plate stands above the texts
 constexpr int BarHeight = 29;
-constexpr int Gap = 8;
-constexpr int ButtonWidth = 120;
-constexpr int ButtonHeight = 42;
 
 } // namespace
 
 CPowerMonitor::CPowerMonitor(QWidget* parent)
-    : CDialog(parent)
+    : CInfoPage(parent)
 {
     initialize();
 }
@@ -38,50 +32,29 @@ CPowerMonitor::CPowerMonitor(QWidget* parent)
 void CPowerMonitor::initialize()
 {
     setObjectName(QStringLiteral("powerMonitor"));
-    m_pTitleLabel = addLabel("title");
-    m_pPowerSrcNameLabel = addLabel("sourceName");
+    m_pPowerSrcNameLabel = addLabel(QStringLiteral("sourceName"));
     m_pBattery = new CStatusIcon(this);
     m_pBattery->setObjectName(QStringLiteral("battery"));
     m_pBattery->setIconSize(PictureSize, PictureSize);
     m_pBattery->setAttribute(Qt::WA_TransparentForMouseEvents); // it tells and does nothing
-    m_pBattStatNameLabel = addLabel("stateName");
-    m_pBattStatLabel = addLabel("state");
+    m_pBattStatNameLabel = addLabel(QStringLiteral("stateName"));
+    m_pBattStatLabel = addLabel(QStringLiteral("state"));
     m_pPowerLvlBar = new CProgressBar(this);
     m_pPowerLvlBar->setObjectName(QStringLiteral("level"));
     m_pPowerLvlBar->setRange(0, 100);
-    m_pBattCapNameLabel = addLabel("capacityName");
-    m_pBattCapLabel = addLabel("capacity");
-    m_pBattTimeTitle = addLabel("timeName");
-    m_pBattTimeValue = addLabel("time");
-    m_pBtnWidget = new CWidget(this);
-    m_pBtnOk = new CPushButton(m_pBtnWidget);
-    m_pBtnOk->setObjectName(QStringLiteral("ok"));
-    connect(m_pBtnOk, &QAbstractButton::clicked, this, &CPowerMonitor::onOk);
+    m_pBattCapNameLabel = addLabel(QStringLiteral("capacityName"));
+    m_pBattCapLabel = addLabel(QStringLiteral("capacity"));
+    m_pBattTimeTitle = addLabel(QStringLiteral("timeName"));
+    m_pBattTimeValue = addLabel(QStringLiteral("time"));
 
-    setBackgroundColor(CResourceMan::getColor(CResourceMan::DlgBgColor));
-    setTextColor(CWidgetStyle::getColor(CWidgetStyle::ColorTextDark));
-    setBorderColor(CResourceMan::getColor(CResourceMan::DlgBorderColor));
-    setBorderWidth(CResourceMan::getWidth(CResourceMan::DlgBorderWidth));
-    m_pTitleLabel->setTextSize(TitleTextSize);
-    m_pTitleLabel->setBold(true);
-    m_pTitleLabel->setAlignment(Qt::AlignCenter);
-    m_pTitleLabel->setBackgroundColor(CWidgetStyle::ColorTitle);
-    setTitleLabel(m_pTitleLabel);
-    m_pTitleLabel->setTextColor(CWidgetStyle::ColorTextLight);
-    m_pPowerLvlBar->setBorderColor(QColor(Qt::gray));
-    m_pPowerLvlBar->setBarColor(CWidgetStyle::getColor(CWidgetStyle::ColorButton));
-    m_pBtnOk->setQuiet();
+    dress(CResourceMan::getColor(CResourceMan::DlgBgColor),
+        CResourceMan::getColor(CResourceMan::DlgBorderColor),
+        CResourceMan::getWidth(CResourceMan::DlgBorderWidth));
+    m_pPowerLvlBar->setBorderColor(Qt::gray);
+    m_pPowerLvlBar->setBarColor(CWidgetStyle::ColorButton);
 
     translate();
     updatePowerStatus(m_status);
-}
-
-CLabel* CPowerMonitor::addLabel(const char* objectName)
-{
-    auto* label = new CLabel(this);
-    label->setObjectName(QLatin1String(objectName));
-    label->setTextSize(TextSize);
-    return label;
 }
 
 int CPowerMonitor::exec(const PowerStatus& status)
@@ -126,19 +99,6 @@ void CPowerMonitor::setPowerRemainTime(int minutes)
     m_pBattTimeValue->setText(remainTimeText(minutes));
 }
 
-void CPowerMonitor::setBackgroundColor(const QColor& color)
-{
-    CDialog::setBackgroundColor(color);
-    for (CLabel* label : findChildren<CLabel*>())
-        label->setBackgroundColor(color);
-}
-
-void CPowerMonitor::setTextColor(const QColor& color)
-{
-    for (CLabel* label : findChildren<CLabel*>())
-        label->setTextColor(color);
-}
-
 void CPowerMonitor::translate()
 {
     m_pTitleLabel->setText(tr("Power Information"));
@@ -151,11 +111,6 @@ void CPowerMonitor::translate()
     CDialog::translate();
     if (isVisible())
         updatePowerStatus(m_status);
-}
-
-void CPowerMonitor::onOk()
-{
-    accept();
 }
 
 void CPowerMonitor::resizeEvent(QResizeEvent* event)
@@ -179,7 +134,7 @@ int CPowerMonitor::layoutRows()
     const int nameLeft = inner.left() + Margin;
     const int valueLeft = nameLeft + NameWidth;
     const int right = inner.right() + 1 - Margin;
-    int top = inner.top();
+    int top = inner.top() + TitleHeight + Gap;
     const auto placeRow = [&](QWidget* name, QWidget* value, int height) {
         if (name->isHidden())
             return;
@@ -191,8 +146,6 @@ int CPowerMonitor::layoutRows()
         top += height;
     };
 
-    m_pTitleLabel->setGeometry(inner.left(), top, inner.width(), TitleHeight);
-    top += TitleHeight + Gap;
     placeRow(m_pPowerSrcNameLabel, m_pBattery, PictureSize);
     placeRow(m_pBattStatNameLabel, m_pBattStatLabel, RowHeight);
     if (!m_pPowerLvlBar->isHidden()) {
@@ -201,8 +154,5 @@ int CPowerMonitor::layoutRows()
     }
     placeRow(m_pBattCapNameLabel, m_pBattCapLabel, RowHeight);
     placeRow(m_pBattTimeTitle, m_pBattTimeValue, RowHeight);
-    top += Gap;
-    m_pBtnWidget->setGeometry(inner.left(), top, inner.width(), ButtonHeight + 2 * Gap);
-    m_pBtnOk->setGeometry((inner.width() - ButtonWidth) / 2, 0, ButtonWidth, ButtonHeight);
-    return top + ButtonHeight + 2 * Gap + (rect().bottom() - inner.bottom());
+    return placeFrame(top + Gap);
 }

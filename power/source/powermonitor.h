@@ -1,13 +1,11 @@
 #pragma once
 
 #include "devicestatus.h"
-#include "widgets/dialog/dialog.h"
+#include "widgets/infopage/infopage.h"
 
 class CLabel;
 class CProgressBar;
-class CPushButton;
 class CStatusIcon;
-class CWidget;
 
 /**
  * The power page: power source, battery state, level and remaining running time. A modal dialog that its
@@ -15,7 +13,7 @@ class CWidget;
  *
  * Interface thread only. Owned by its Qt parent.
  */
-class CPowerMonitor : public CDialog
+class CPowerMonitor : public CInfoPage
 {
     Q_OBJECT
 
@@ -33,24 +31,17 @@ public:
     /** Shows a remaining time in minutes. */
     void setPowerRemainTime(int minutes);
 
-    using CDialog::setBackgroundColor;
-    /** Colours of the dialog and of all its labels. */
-    void setBackgroundColor(const QColor& color);
-    void setTextColor(const QColor& color);
-
 public slots:
     /** Takes over a new record. */
     void updatePowerStatus(const PowerStatus& status);
     /** Re-applies the texts; while the page is up also those of the record it shows. */
     void translate() override;
-    void onOk();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void initialize();
-    CLabel* addLabel(const char* objectName);
     void fitToRows();
     /** Places the rows. @return the height that they take with the dialog's border, in pixels */
     int layoutRows();
@@ -58,7 +49,6 @@ private:
     int m_powerLevel = 0; // per cent
     bool bIsACPower = true;
     PowerStatus m_status; // shown last
-    CLabel* m_pTitleLabel = nullptr;
     CLabel* m_pPowerSrcNameLabel = nullptr;
     CStatusIcon* m_pBattery = nullptr;
     CLabel* m_pBattStatNameLabel = nullptr;
@@ -68,6 +58,4 @@ private:
     CLabel* m_pBattCapLabel = nullptr;
     CLabel* m_pBattTimeTitle = nullptr;
     CLabel* m_pBattTimeValue = nullptr;
-    CWidget* m_pBtnWidget = nullptr;
-    CPushButton* m_pBtnOk = nullptr;
 };

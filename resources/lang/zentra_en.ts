@@ -413,6 +413,10 @@ or exceed maximum number allowed!</translation>
         <source>Releasing test application, please wait...</source>
         <translation>Releasing test application, please wait...</translation>
     </message>
+    <message>
+        <source>%1 is not available on this unit.</source>
+        <translation>%1 is not available on this unit.</translation>
+    </message>
 </context>
 <context>
     <name>CMessageBox</name>
@@ -677,6 +681,56 @@ Clock Source</translation>
 Clock Source</source>
         <translation>High Precision
 Clock Source</translation>
+    </message>
+</context>
+<context>
+    <name>QLibrary</name>
+    <message>
+        <source>&apos;%1&apos; is an invalid ELF object (%2)</source>
+        <translation>&apos;%1&apos; is an invalid ELF object (%2)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object</source>
+        <translation>&apos;%1&apos; is not an ELF object</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object (%2)</source>
+        <translation>&apos;%1&apos; is not an ELF object (%2)</translation>
+    </message>
+    <message>
+        <source>Cannot load library %1: %2</source>
+        <translation>Cannot load library %1: %2</translation>
+    </message>
+    <message>
+        <source>Failed to extract plugin meta data from &apos;%1&apos;</source>
+        <translation>Failed to extract plugin meta data from &apos;%1&apos;</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a valid Qt plugin.</source>
+        <translation>The file &apos;%1&apos; is not a valid Qt plugin.</translation>
+    </message>
+    <message>
+        <source>The plugin &apos;%1&apos; uses incompatible Qt library. (%2.%3.%4) [%5]</source>
+        <translation>The plugin &apos;%1&apos; uses incompatible Qt library. (%2.%3.%4) [%5]</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>The shared library was not found.</translation>
+    </message>
+</context>
+<context>
+    <name>QPluginLoader</name>
+    <message>
+        <source>The plugin was not loaded.</source>
+        <translation>The plugin was not loaded.</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>The shared library was not found.</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Unknown error</translation>
     </message>
 </context>
 </TS>

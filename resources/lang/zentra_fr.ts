@@ -413,6 +413,10 @@ enregistrées est atteint ou dépassé !</translation>
         <source>Releasing test application, please wait...</source>
         <translation>Libération de l’application de test, veuillez patienter...</translation>
     </message>
+    <message>
+        <source>%1 is not available on this unit.</source>
+        <translation>%1 n’est pas disponible sur cet appareil.</translation>
+    </message>
 </context>
 <context>
     <name>CMessageBox</name>
@@ -677,6 +681,56 @@ haute précision</translation>
 Clock Source</source>
         <translation>Source d’horloge
 haute précision</translation>
+    </message>
+</context>
+<context>
+    <name>QLibrary</name>
+    <message>
+        <source>&apos;%1&apos; is an invalid ELF object (%2)</source>
+        <translation>« %1 » est un objet ELF non valide (%2)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object</source>
+        <translation>« %1 » n’est pas un objet ELF</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object (%2)</source>
+        <translation>« %1 » n’est pas un objet ELF (%2)</translation>
+    </message>
+    <message>
+        <source>Cannot load library %1: %2</source>
+        <translation>Impossible de charger la bibliothèque %1 : %2</translation>
+    </message>
+    <message>
+        <source>Failed to extract plugin meta data from &apos;%1&apos;</source>
+        <translation>Aucune métadonnée de plug-in trouvée dans « %1 »</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a valid Qt plugin.</source>
+        <translation>Le fichier « %1 » n’est pas un plug-in Qt valide.</translation>
+    </message>
+    <message>
+        <source>The plugin &apos;%1&apos; uses incompatible Qt library. (%2.%3.%4) [%5]</source>
+        <translation>Le plug-in « %1 » utilise une bibliothèque Qt incompatible. (%2.%3.%4) [%5]</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>La bibliothèque est introuvable.</translation>
+    </message>
+</context>
+<context>
+    <name>QPluginLoader</name>
+    <message>
+        <source>The plugin was not loaded.</source>
+        <translation>Le plug-in n’a pas été chargé.</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>La bibliothèque est introuvable.</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Erreur inconnue</translation>
     </message>
 </context>
 </TS>

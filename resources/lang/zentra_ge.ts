@@ -413,6 +413,10 @@ ist erreicht oder überschritten!</translation>
         <source>Releasing test application, please wait...</source>
         <translation>Testanwendung wird beendet, bitte warten...</translation>
     </message>
+    <message>
+        <source>%1 is not available on this unit.</source>
+        <translation>%1 ist auf diesem Gerät nicht verfügbar.</translation>
+    </message>
 </context>
 <context>
     <name>CMessageBox</name>
@@ -677,6 +681,56 @@ Taktquelle</translation>
 Clock Source</source>
         <translation>Hochpräzise
 Taktquelle</translation>
+    </message>
+</context>
+<context>
+    <name>QLibrary</name>
+    <message>
+        <source>&apos;%1&apos; is an invalid ELF object (%2)</source>
+        <translation>„%1“ ist ein ungültiges ELF-Objekt (%2)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object</source>
+        <translation>„%1“ ist kein ELF-Objekt</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object (%2)</source>
+        <translation>„%1“ ist kein ELF-Objekt (%2)</translation>
+    </message>
+    <message>
+        <source>Cannot load library %1: %2</source>
+        <translation>Bibliothek %1 kann nicht geladen werden: %2</translation>
+    </message>
+    <message>
+        <source>Failed to extract plugin meta data from &apos;%1&apos;</source>
+        <translation>In „%1“ wurden keine Plug-in-Metadaten gefunden</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a valid Qt plugin.</source>
+        <translation>Die Datei „%1“ ist kein gültiges Qt-Plug-in.</translation>
+    </message>
+    <message>
+        <source>The plugin &apos;%1&apos; uses incompatible Qt library. (%2.%3.%4) [%5]</source>
+        <translation>Das Plug-in „%1“ verwendet eine inkompatible Qt-Bibliothek. (%2.%3.%4) [%5]</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>Die Bibliothek wurde nicht gefunden.</translation>
+    </message>
+</context>
+<context>
+    <name>QPluginLoader</name>
+    <message>
+        <source>The plugin was not loaded.</source>
+        <translation>Das Plug-in wurde nicht geladen.</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>Die Bibliothek wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Unbekannter Fehler</translation>
     </message>
 </context>
 </TS>

@@ -413,6 +413,10 @@ vagy meghaladta a megengedettet!</translation>
         <source>Releasing test application, please wait...</source>
         <translation>Tesztalkalmazás leállítása, kérem várjon...</translation>
     </message>
+    <message>
+        <source>%1 is not available on this unit.</source>
+        <translation>%1 ezen a készüléken nem érhető el.</translation>
+    </message>
 </context>
 <context>
     <name>CMessageBox</name>
@@ -677,6 +681,56 @@ Clock Source</source>
 Clock Source</source>
         <translation>Nagy pontosságú
 órajelforrás</translation>
+    </message>
+</context>
+<context>
+    <name>QLibrary</name>
+    <message>
+        <source>&apos;%1&apos; is an invalid ELF object (%2)</source>
+        <translation>„%1” érvénytelen ELF-objektum (%2)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object</source>
+        <translation>„%1” nem ELF-objektum</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object (%2)</source>
+        <translation>„%1” nem ELF-objektum (%2)</translation>
+    </message>
+    <message>
+        <source>Cannot load library %1: %2</source>
+        <translation>A(z) %1 könyvtár nem tölthető be: %2</translation>
+    </message>
+    <message>
+        <source>Failed to extract plugin meta data from &apos;%1&apos;</source>
+        <translation>„%1” nem tartalmaz bővítmény-metaadatokat</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a valid Qt plugin.</source>
+        <translation>„%1” nem érvényes Qt-bővítmény.</translation>
+    </message>
+    <message>
+        <source>The plugin &apos;%1&apos; uses incompatible Qt library. (%2.%3.%4) [%5]</source>
+        <translation>A(z) „%1” bővítmény nem kompatibilis Qt-könyvtárat használ. (%2.%3.%4) [%5]</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>A könyvtár nem található.</translation>
+    </message>
+</context>
+<context>
+    <name>QPluginLoader</name>
+    <message>
+        <source>The plugin was not loaded.</source>
+        <translation>A bővítmény nem lett betöltve.</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>A könyvtár nem található.</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Ismeretlen hiba</translation>
     </message>
 </context>
 </TS>

@@ -413,6 +413,10 @@ or exceed maximum number allowed!</source>
         <source>Releasing test application, please wait...</source>
         <translation>テストアプリを終了中です。お待ちください...</translation>
     </message>
+    <message>
+        <source>%1 is not available on this unit.</source>
+        <translation>この本体では %1 を利用できません。</translation>
+    </message>
 </context>
 <context>
     <name>CMessageBox</name>
@@ -677,6 +681,56 @@ Clock Source</source>
 Clock Source</source>
         <translation>高精度
 クロック源</translation>
+    </message>
+</context>
+<context>
+    <name>QLibrary</name>
+    <message>
+        <source>&apos;%1&apos; is an invalid ELF object (%2)</source>
+        <translation>「%1」は無効な ELF オブジェクトです (%2)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object</source>
+        <translation>「%1」は ELF オブジェクトではありません</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object (%2)</source>
+        <translation>「%1」は ELF オブジェクトではありません (%2)</translation>
+    </message>
+    <message>
+        <source>Cannot load library %1: %2</source>
+        <translation>ライブラリ %1 を読み込めません: %2</translation>
+    </message>
+    <message>
+        <source>Failed to extract plugin meta data from &apos;%1&apos;</source>
+        <translation>「%1」にプラグインのメタデータがありません</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a valid Qt plugin.</source>
+        <translation>「%1」は有効な Qt プラグインではありません。</translation>
+    </message>
+    <message>
+        <source>The plugin &apos;%1&apos; uses incompatible Qt library. (%2.%3.%4) [%5]</source>
+        <translation>プラグイン「%1」は互換性のない Qt ライブラリを使用しています。(%2.%3.%4) [%5]</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>ライブラリが見つかりません。</translation>
+    </message>
+</context>
+<context>
+    <name>QPluginLoader</name>
+    <message>
+        <source>The plugin was not loaded.</source>
+        <translation>プラグインは読み込まれていません。</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>ライブラリが見つかりません。</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>不明なエラー</translation>
     </message>
 </context>
 </TS>

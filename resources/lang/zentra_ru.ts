@@ -413,6 +413,10 @@ or exceed maximum number allowed!</source>
         <source>Releasing test application, please wait...</source>
         <translation>Завершение тестового приложения, подождите...</translation>
     </message>
+    <message>
+        <source>%1 is not available on this unit.</source>
+        <translation>«%1» недоступно на этом приборе.</translation>
+    </message>
 </context>
 <context>
     <name>CMessageBox</name>
@@ -677,6 +681,56 @@ Clock Source</source>
 Clock Source</source>
         <translation>Точный источник
 тактов</translation>
+    </message>
+</context>
+<context>
+    <name>QLibrary</name>
+    <message>
+        <source>&apos;%1&apos; is an invalid ELF object (%2)</source>
+        <translation>«%1» — недопустимый объект ELF (%2)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object</source>
+        <translation>«%1» не является объектом ELF</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object (%2)</source>
+        <translation>«%1» не является объектом ELF (%2)</translation>
+    </message>
+    <message>
+        <source>Cannot load library %1: %2</source>
+        <translation>Не удалось загрузить библиотеку %1: %2</translation>
+    </message>
+    <message>
+        <source>Failed to extract plugin meta data from &apos;%1&apos;</source>
+        <translation>В «%1» не найдены метаданные плагина</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a valid Qt plugin.</source>
+        <translation>Файл «%1» не является плагином Qt.</translation>
+    </message>
+    <message>
+        <source>The plugin &apos;%1&apos; uses incompatible Qt library. (%2.%3.%4) [%5]</source>
+        <translation>Плагин «%1» использует несовместимую библиотеку Qt. (%2.%3.%4) [%5]</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>Библиотека не найдена.</translation>
+    </message>
+</context>
+<context>
+    <name>QPluginLoader</name>
+    <message>
+        <source>The plugin was not loaded.</source>
+        <translation>Плагин не загружен.</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>Библиотека не найдена.</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Неизвестная ошибка</translation>
     </message>
 </context>
 </TS>

@@ -412,6 +412,10 @@ or exceed maximum number allowed!</source>
         <source>Releasing test application, please wait...</source>
         <translation>正在释放测试应用，请稍候...</translation>
     </message>
+    <message>
+        <source>%1 is not available on this unit.</source>
+        <translation>本机不提供“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>CMessageBox</name>
@@ -676,6 +680,56 @@ Clock Source</source>
 Clock Source</source>
         <translation>高精度
 时钟源</translation>
+    </message>
+</context>
+<context>
+    <name>QLibrary</name>
+    <message>
+        <source>&apos;%1&apos; is an invalid ELF object (%2)</source>
+        <translation>“%1”是无效的 ELF 对象（%2）</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object</source>
+        <translation>“%1”不是 ELF 对象</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an ELF object (%2)</source>
+        <translation>“%1”不是 ELF 对象（%2）</translation>
+    </message>
+    <message>
+        <source>Cannot load library %1: %2</source>
+        <translation>无法加载库 %1：%2</translation>
+    </message>
+    <message>
+        <source>Failed to extract plugin meta data from &apos;%1&apos;</source>
+        <translation>“%1”中没有插件元数据</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a valid Qt plugin.</source>
+        <translation>文件“%1”不是有效的 Qt 插件。</translation>
+    </message>
+    <message>
+        <source>The plugin &apos;%1&apos; uses incompatible Qt library. (%2.%3.%4) [%5]</source>
+        <translation>插件“%1”使用了不兼容的 Qt 库。（%2.%3.%4）[%5]</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>未找到共享库。</translation>
+    </message>
+</context>
+<context>
+    <name>QPluginLoader</name>
+    <message>
+        <source>The plugin was not loaded.</source>
+        <translation>插件未加载。</translation>
+    </message>
+    <message>
+        <source>The shared library was not found.</source>
+        <translation>未找到共享库。</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>未知错误</translation>
     </message>
 </context>
 </TS>

@@ -14,6 +14,7 @@ SYS_OPEN_TREE, SYS_MOVE_MOUNT, SYS_MOUNT_SETATTR = 428, 429, 442  # the same num
 OPEN_TREE_CLONE, OPEN_TREE_CLOEXEC = 1, os.O_CLOEXEC
 AT_FDCWD, AT_EMPTY_PATH, AT_RECURSIVE = -100, 0x1000, 0x8000
 MOVE_MOUNT_F_EMPTY_PATH = 4
+MNT_DETACH = 2
 MOUNT_ATTR_RDONLY = 1
 PR_SET_PDEATHSIG, PR_CAPBSET_DROP = 1, 24
 # Powers over the machine itself that no namespace confines: network set-up, modules, raw I/O, reboot, clock, nodes.
@@ -133,17 +134,32 @@ def _private_proc():
             make_readonly(AT_FDCWD, path)
 
 
-def build_tree(source, visible, outputs, state):
+def detach(path):
+    """Takes away a file that build_tree() laid over; best effort."""
+    libc.umount2(path.encode(), MNT_DETACH)
+    os.unlink(path)
+
+
+def joining(first):
+    """The nsenter call that runs a command beside process `first`; append the command."""
+    same_user = os.readlink("/proc/%d/ns/user" % first) == os.readlink("/proc/self/ns/user")
+    return (["nsenter", "-t", str(first)] + ([] if same_user else ["--user", "--preserve-credentials"])
+            + ["--mount", "--ipc", "--pid", "--"])
+
+
+def build_tree(source, visible, outputs, state, sockets):
     """Lays the instrument's tree over the machine's, for process 1 of the namespaces.
 
     source: the checkout; visible: directories that stay visible, read-only, at their own paths; outputs:
-    directories that stay writable at their own paths; state: directory that keeps the writable places, or None.
+    directories that stay writable at their own paths; state: directory that keeps the writable places, or None;
+    sockets: paths of sockets of the machine that stay in reach.
     """
     mount(None, "/", None, MS_REC | MS_PRIVATE)
     covered = [place for place, _, _ in PLACES] + ["/dev", "/proc", "/usr"]
     seen = {path: clone_tree(path, True) for path in visible
             if path not in outputs and any(_is_below(path, place) for place in covered)}
     kept = {path: clone_tree(path, False) for path in outputs}
+    reached = {path: clone_tree(path, False) for path in sockets}
     stores = {}
     if state:
         for place, mode, stays in PLACES:
@@ -164,6 +180,10 @@ def build_tree(source, visible, outputs, state):
     _private_proc()
     for path, tree in sorted({**seen, **kept}.items(), key=lambda item: len(item[0])):
         os.makedirs(path, exist_ok=True)
+        attach(tree, path)
+    for path, tree in reached.items():
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        os.close(os.open(path, os.O_CREAT | os.O_WRONLY, 0o600))
         attach(tree, path)
 
 

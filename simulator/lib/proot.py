@@ -5,6 +5,9 @@ is allowed.
 """
 import ctypes
 import os
+import re
+import signal
+import time
 
 import namespaces
 
@@ -35,7 +38,36 @@ def hide_unknown_calls():
     namespaces.libc.prctl(PR_SET_SECCOMP, ctypes.c_ulong(SECCOMP_MODE_FILTER), ctypes.byref(program), 0, 0)
 
 
-def command(source, visible, state, scratch):
+def _traced_by(tracer):
+    """The processes that this tracer holds."""
+    found = []
+    for name in filter(str.isdigit, os.listdir("/proc")):
+        try:
+            with open("/proc/%s/status" % name, encoding="utf-8", errors="replace") as stream:
+                if "TracerPid:\t%d\n" % tracer in stream.read():
+                    found.append(int(name))
+        except OSError:
+            pass  # gone
+    return found
+
+
+def end_others(spared):
+    """Ends everything that runs under the caller's proot but the processes `spared`."""
+    with open("/proc/self/status", encoding="utf-8") as stream:
+        tracer = int(re.search(r"TracerPid:\t(\d+)", stream.read()).group(1))
+    while tracer:
+        others = [pid for pid in _traced_by(tracer) if pid not in spared]
+        if not others:
+            return
+        for pid in others:
+            try:
+                os.kill(pid, signal.SIGKILL)
+            except ProcessLookupError:
+                pass
+        time.sleep(0.01)  # one that was just forked, or has not ended yet
+
+
+def command(source, visible, state, scratch, sockets):
     """The proot call that lays the tree, writable places in state or scratch; append the command."""
     bindings = []
     for place, mode, stays in namespaces.PLACES + (("/dev/shm", 0o1777, False),):
@@ -48,6 +80,6 @@ def command(source, visible, state, scratch):
         inside = directory[len(rootfs):]
         if not inside.startswith(("/usr/local/arvo", "/usr/local/module")):
             bindings += [word for name in names for word in ("-b", "%s/%s:%s/%s" % (directory, name, inside, name))]
-    for path in dict.fromkeys(visible):
+    for path in dict.fromkeys(visible + sockets):
         bindings += ["-b", path]
     return ["proot", "-0", "-w", os.getcwd()] + bindings

@@ -25,11 +25,15 @@ class StartError(Exception):
     """A part of the instrument did not come up; the text says which and shows its log."""
 
 
+def runtime_directory():
+    return "/run/user/%d" % os.geteuid()
+
+
 def populate(source, build):
     """Fills the writable places; what a kept state already holds stays, but for the plug-ins just built."""
     for path in DIRECTORIES:
         os.makedirs(path, exist_ok=True)
-    runtime = "/run/user/%d" % os.geteuid()
+    runtime = runtime_directory()
     os.makedirs(runtime, mode=0o700, exist_ok=True)
     shutil.copytree(os.path.join(source, "simulator/rootfs/usr/local/arvo"), "/usr/local/arvo", dirs_exist_ok=True)
     for tool in ("simulator/simctl", "simulator/tour"):
@@ -45,17 +49,20 @@ def populate(source, build):
     if not os.path.exists(calibration):
         with open(calibration, "w", encoding="ascii") as stream:
             stream.write("1 0 0 0 1 0 65536\n")
-    for stale in ("/tmp/.X11-unix",):  # sockets of the server that a kept state last saw
-        shutil.rmtree(stale, ignore_errors=True)
-        os.makedirs(stale)
-        os.chmod(stale, 0o1777)
-    for name in os.listdir("/tmp"):
-        if name.startswith(".X") and name.endswith("-lock"):
-            os.unlink("/tmp/" + name)
+    os.makedirs("/tmp/.X11-unix", exist_ok=True)
+    os.chmod("/tmp/.X11-unix", 0o1777)
     return runtime
 
 
-def environment(source, build, runtime, has_screen):
+def forget_screen(tmp):
+    """Removes what the server that a kept state last saw left in its /tmp."""
+    shutil.rmtree(os.path.join(tmp, ".X11-unix"), ignore_errors=True)
+    for name in os.listdir(tmp) if os.path.isdir(tmp) else ():
+        if name.startswith(".X") and name.endswith("-lock"):
+            os.unlink(os.path.join(tmp, name))
+
+
+def environment(source, build, runtime, has_screen, backend):
     """The caller's environment less what would tie the command to the caller's desktop or change how Qt looks."""
     dropped = ("QT_", "XDG_", "DBUS_", "LC_", "WAYLAND_")
     kept = ("QT_LOGGING_RULES", "QT_FATAL_WARNINGS", "QT_MESSAGE_PATTERN")
@@ -65,21 +72,14 @@ def environment(source, build, runtime, has_screen):
         HOME="/home/root", USER="root", LOGNAME="root", LANG="C.UTF-8", XDG_RUNTIME_DIR=runtime,
         QT_QPA_PLATFORM="xcb" if has_screen else "offscreen",
         QT_XCB_GL_INTEGRATION="none",  # the shell sets it for itself; tests of its parts run as it does
-        INSTRUMENT_SOURCE=source, INSTRUMENT_BUILD=build,
+        INSTRUMENT_SOURCE=source, INSTRUMENT_BUILD=build, INSTRUMENT_BACKEND=backend,
         PATH="%s:/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin" % TOOLS)
     result.pop("TMPDIR", None)
     return result
 
 
-def stop_all(build):
-    """Ends what launch() started and removes the segment, where no namespace does it."""
-    for name in os.listdir(RUN) if os.path.isdir(RUN) else ():
-        if name.endswith(".pid"):
-            with open(os.path.join(RUN, name), encoding="ascii") as stream:
-                try:
-                    os.kill(int(stream.read()), signal.SIGKILL)
-                except (ProcessLookupError, ValueError):
-                    pass
+def remove_segment(build):
+    """Where no namespace does it."""
     tool = os.path.join(build, "simulator/globalsegment")
     os.waitpid(os.posix_spawn(tool, [tool, "remove"], os.environ), 0)
 
@@ -149,12 +149,14 @@ class Services:
         with open(self._log(part), encoding="utf-8", errors="replace") as stream:
             return "".join(stream.readlines()[-15:])
 
-    def start(self, parts, window_of=None):
-        """parts: of x, bus, daemon, wm. window_of: environment of the caller's display for a visible window."""
+    def start(self, parts, window_of=None, number=None):
+        """parts: of x, bus, daemon, wm. window_of: environment of the caller's display for a visible window; number:
+        that of the new display, when it is not for the server to choose."""
         if "x" in parts:
             server = ["Xvfb", "-screen", "0", "800x480x24"]
             if window_of:
                 server = ["Xephyr", "-screen", "800x480", "-title", "Instrument"]
+                server += [":%d" % number] if number is not None else []
                 self.env.update(window_of)
             self.launch_with_pipe("x", lambda fd: server + ["-displayfd", fd, "-dpi", "96", "-nolisten", "tcp",
                                                             "-noreset", "-s", "0"])

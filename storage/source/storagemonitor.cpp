@@ -11,22 +11,16 @@ namespace {
 
 // Pixels
 constexpr int Width = 628;
-constexpr int TitleHeight = 48;
-constexpr int TitleTextSize = 24;
-constexpr int TextSize = 18;
 constexpr int RowHeight = 36;
 constexpr int Margin = 14;
-constexpr int Gap = 8;
 constexpr int ValueWidth = 108; // ten digits
-constexpr int ButtonWidth = 120;
-constexpr int ButtonHeight = 42;
 constexpr int UsbButtonWidth = 72;
 constexpr int UsbButtonHeight = 48;
 
 } // namespace
 
 CStorageMonitor::CStorageMonitor(QWidget* parent)
-    : CDialog(parent)
+    : CInfoPage(parent)
     , m_rowHeight(RowHeight)
 {
     initialize();
@@ -35,7 +29,6 @@ CStorageMonitor::CStorageMonitor(QWidget* parent)
 void CStorageMonitor::initialize()
 {
     setObjectName(QStringLiteral("storageMonitor"));
-    m_pTitleLabel = addLabel(QStringLiteral("title"));
     m_pStorageInfoLabel = addLabel(QStringLiteral("disk"));
     m_pUSBDriveLabel = addLabel(QStringLiteral("usbd"));
     createRow(m_pDiskBlocksTitle, m_pDiskBlocksValue, "diskBlocks");
@@ -47,33 +40,21 @@ void CStorageMonitor::initialize()
     createRow(m_pUSBDAvailTitle, m_pUSBDAvailValue, "usbdAvail");
     createRow(m_pUSBDUsedRatioTitle, m_pUSBDUsedRatioValue, "usbdUsedRatio");
     m_pSeparator = new CWidget(this);
-    m_pBtnWidget = new CWidget(this);
-    m_pBtnOk = new CPushButton(m_pBtnWidget);
-    m_pBtnOk->setObjectName(QStringLiteral("ok"));
     m_pInstallUSBDriver = new CPushButton(m_pBtnWidget);
     m_pInstallUSBDriver->setObjectName(QStringLiteral("usbDrive"));
     m_pInstallUSBDriver->setExtraAttribute(CPushButton::ReleaseBackground,
         QPixmap::fromImage(readPicture(QStringLiteral(":/images/remove_usb_release.png"))));
     m_pInstallUSBDriver->setExtraAttribute(CPushButton::PressBackground,
         QPixmap::fromImage(readPicture(QStringLiteral(":/images/remove_usb_pushed.png"))));
-    connect(m_pBtnOk, &QAbstractButton::clicked, this, &CStorageMonitor::onOk);
     connect(m_pInstallUSBDriver, &QAbstractButton::clicked, this, &CStorageMonitor::onUSBDrive);
 
-    setBackgroundColor(CResourceMan::getColor(CResourceMan::DlgBgColor));
-    setTextColor(CWidgetStyle::getColor(CWidgetStyle::ColorTextDark));
-    setBorderColor(CResourceMan::getColor(CResourceMan::DlgBorderColor));
-    setBorderWidth(CResourceMan::getWidth(CResourceMan::DlgBorderWidth));
-    m_pSeparator->setBackgroundColor(CResourceMan::getColor(CResourceMan::DlgBorderColor));
-    m_pTitleLabel->setTextSize(TitleTextSize);
-    m_pTitleLabel->setAlignment(Qt::AlignCenter);
-    m_pTitleLabel->setBackgroundColor(CWidgetStyle::ColorTitle);
-    setTitleLabel(m_pTitleLabel);
-    m_pTitleLabel->setTextColor(CWidgetStyle::ColorTextLight);
-    m_pBtnOk->setQuiet();
-    for (CLabel* heading : {m_pTitleLabel, m_pStorageInfoLabel, m_pUSBDriveLabel})
-        heading->setBold(true);
-
     const int border = CResourceMan::getWidth(CResourceMan::DlgBorderWidth);
+    dress(CResourceMan::getColor(CResourceMan::DlgBgColor),
+        CResourceMan::getColor(CResourceMan::DlgBorderColor), border);
+    m_pSeparator->setBackgroundColor(CResourceMan::getColor(CResourceMan::DlgBorderColor));
+    m_pStorageInfoLabel->setBold(true);
+    m_pUSBDriveLabel->setBold(true);
+
     const int groupHeight = (1 + static_cast<int>(diskRows().size())) * m_rowHeight;
     resize(Width, 2 * border + TitleHeight + Gap + groupHeight + Gap + UsbButtonHeight + 2 * Gap);
     translate();
@@ -85,14 +66,6 @@ void CStorageMonitor::createRow(CLabel*& title, CLabel*& value, const char* obje
     title = addLabel(QLatin1String(objectName) + QLatin1String("Name"));
     value = addLabel(QLatin1String(objectName));
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-}
-
-CLabel* CStorageMonitor::addLabel(const QString& objectName)
-{
-    auto* label = new CLabel(this);
-    label->setObjectName(objectName);
-    label->setTextSize(TextSize);
-    return label;
 }
 
 int CStorageMonitor::exec(const StorageStatus& status)
@@ -150,19 +123,6 @@ void CStorageMonitor::setStorageUsed(int used)
 
 void CStorageMonitor::refresh() { }
 
-void CStorageMonitor::setBackgroundColor(const QColor& color)
-{
-    CDialog::setBackgroundColor(color);
-    for (CLabel* label : findChildren<CLabel*>())
-        label->setBackgroundColor(color);
-}
-
-void CStorageMonitor::setTextColor(const QColor& color)
-{
-    for (CLabel* label : findChildren<CLabel*>())
-        label->setTextColor(color);
-}
-
 void CStorageMonitor::translate()
 {
     m_pTitleLabel->setText(tr("Storage Information"));
@@ -191,17 +151,10 @@ void CStorageMonitor::onUSBDrive()
         emit installUSBDriveSig();
 }
 
-void CStorageMonitor::onOk()
-{
-    accept();
-}
-
 void CStorageMonitor::resizeEvent(QResizeEvent* event)
 {
     CDialog::resizeEvent(event);
     const QRect inner = innerRect();
-    m_pTitleLabel->setGeometry(inner.left(), inner.top(), inner.width(), TitleHeight);
-
     const int groupTop = inner.top() + TitleHeight + Gap;
     const int groupHeight = (1 + static_cast<int>(diskRows().size())) * m_rowHeight;
     const QSize groupSize((inner.width() - 4 * Margin) / 2, groupHeight);
@@ -210,10 +163,7 @@ void CStorageMonitor::resizeEvent(QResizeEvent* event)
     placeGroup(QRect(QPoint(middle + Margin, groupTop), groupSize), m_pUSBDriveLabel, usbdRows());
     m_pSeparator->setGeometry(middle, groupTop + Gap, 1, groupHeight - Gap);
 
-    const int buttonTop = groupTop + groupHeight + Gap;
-    m_pBtnWidget->setGeometry(inner.left(), buttonTop, inner.width(), UsbButtonHeight + 2 * Gap);
-    m_pBtnOk->setGeometry(
-        (inner.width() - ButtonWidth) / 2, (UsbButtonHeight - ButtonHeight) / 2, ButtonWidth, ButtonHeight);
+    placeFrame(groupTop + groupHeight + Gap, UsbButtonHeight);
     m_pInstallUSBDriver->setGeometry(
         inner.width() - Margin - UsbButtonWidth, 0, UsbButtonWidth, UsbButtonHeight);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "devicestatus.h"
-#include "widgets/dialog/dialog.h"
+#include "widgets/infopage/infopage.h"
 
 #include <array>
 
@@ -18,7 +18,7 @@ struct StorageFigures;
  *
  * Interface thread only. Owned by its Qt parent.
  */
-class CStorageMonitor : public CDialog
+class CStorageMonitor : public CInfoPage
 {
     Q_OBJECT
 
@@ -33,11 +33,6 @@ public:
     void setStorageTotal(int total);
     void setStorageUsed(int used);
 
-    using CDialog::setBackgroundColor;
-    /** Colours of the dialog and of all its labels. */
-    void setBackgroundColor(const QColor& color);
-    void setTextColor(const QColor& color);
-
 public slots:
     /** Takes over a new record. */
     void updateStorageStatus(const StorageStatus& status);
@@ -45,7 +40,6 @@ public slots:
     void translate() override;
     /** The touch on the USB button: asks to release the drive in use, or to take one in. */
     void onUSBDrive();
-    void onOk();
 
 signals:
     void installUSBDriveSig();
@@ -65,7 +59,6 @@ private:
 
     void initialize();
     void createRow(CLabel*& title, CLabel*& value, const char* objectName);
-    CLabel* addLabel(const QString& objectName);
     void refresh();
     /** The rows of a storage, from blocks to ratio. */
     Rows diskRows() const;
@@ -78,7 +71,6 @@ private:
     int m_storeUsed = 0;
     bool bIsUSBDiskMounted = false;
     StorageStatus m_status; // shown last
-    CLabel* m_pTitleLabel = nullptr;
     CLabel* m_pStorageInfoLabel = nullptr; // heading of the internal storage
     CLabel* m_pUSBDriveLabel = nullptr; // heading of the USB drive
     CLabel* m_pDiskBlocksTitle = nullptr;
@@ -99,6 +91,4 @@ private:
     CLabel* m_pUSBDUsedRatioValue = nullptr;
     CWidget* m_pSeparator = nullptr;
     CPushButton* m_pInstallUSBDriver = nullptr;
-    CWidget* m_pBtnWidget = nullptr;
-    CPushButton* m_pBtnOk = nullptr;
 };

@@ -152,11 +152,15 @@ private slots:
     void deadDisk();
     void otherThreads();
     void endOfTheProcess();
+
+private:
+    int m_threads = 0; // before any store had one of its own
 };
 
 void tst_SystemSettings::initTestCase()
 {
     REQUIRE_INSTRUMENT();
+    m_threads = runningThreads();
     QCoreApplication::setOrganizationName("test"_s);
     QCoreApplication::setApplicationName("systemsettings"_s);
     qRegisterMetaType<S::SystemAttribute>();
@@ -447,10 +451,9 @@ void tst_SystemSettings::fullDisk()
     }
     const QByteArray before = readFile(nativeFile());
     QVERIFY(before.contains("english"));
-    const int threads = runningThreads();
     Settings settings;
     QCoreApplication::processEvents();
-    QTRY_COMPARE(runningThreads(), threads);
+    QTRY_COMPARE(runningThreads(), m_threads);
     {
         std::unique_ptr<CFileSizeLimit> limit;
         if (isReal)
@@ -460,7 +463,7 @@ void tst_SystemSettings::fullDisk()
         QTest::ignoreMessage(QtWarningMsg, stored("can not be stored"));
         settings.setAttribute(S::FileNamePrefix, QString(5000, QLatin1Char('p')));
         QCoreApplication::processEvents();
-        QTRY_COMPARE(runningThreads(), threads);
+        QTRY_COMPARE(runningThreads(), m_threads);
         QCOMPARE(readFile(nativeFile()), before);
         if (isReal)
             disk->makeRoom();
@@ -473,7 +476,6 @@ void tst_SystemSettings::fullDisk()
 
 void tst_SystemSettings::deadDisk()
 {
-    const int before = runningThreads();
     {
         const CDeadDisk disk(QFileInfo(nativeFile()).path());
         if (!disk.isMounted())
@@ -487,7 +489,7 @@ void tst_SystemSettings::deadDisk()
         QCoreApplication::processEvents();
         QCOMPARE(settings.getAttribute(S::FileNamePrefix), QVariant("here all the same"_s));
     }
-    QTRY_COMPARE(runningThreads(), before);
+    QTRY_COMPARE(runningThreads(), m_threads);
 }
 
 void tst_SystemSettings::otherThreads()

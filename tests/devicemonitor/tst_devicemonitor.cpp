@@ -9,6 +9,8 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include "backend.h"
+
 namespace {
 
 // A sanitizer makes every fork slow and keeps freed memory for a while.
@@ -142,13 +144,7 @@ void tst_DeviceMonitor::initTestCase()
     REQUIRE_INSTRUMENT();
     QCoreApplication::setOrganizationName("tst_devicemonitor"_s);
     CSystemSettings::globalSettings();
-    qRegisterMetaType<PowerStatus>("PowerStatus");
-    qRegisterMetaType<BluetoothStatus>("BluetoothStatus");
-    qRegisterMetaType<StorageStatus>("StorageStatus");
-    qRegisterMetaType<WIFIStatus>("WIFIStatus");
-    qRegisterMetaType<OPMStatus>("OPMStatus");
-    qRegisterMetaType<GPSStatus>("GPSStatus");
-    qRegisterMetaType<DataCardStatus>("DataCardStatus");
+    registerStatusTypes();
 }
 
 void tst_DeviceMonitor::cleanup()
@@ -395,6 +391,7 @@ void tst_DeviceMonitor::stopEndsTheWait()
 
 void tst_DeviceMonitor::manyCycles()
 {
+    SKIP_UNDER_PROOT("so many processes take minutes");
     constexpr int WarmUp = 200;
     QVERIFY(simctl("wifi link 63"_s));
     const ChildReaper reaper; // after simctl(): it needs the exit status

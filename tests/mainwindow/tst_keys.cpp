@@ -1,8 +1,10 @@
 #include "advancemenu.h"
+#include "backend.h"
 #include "busymachine.h"
 #include "drivenwindow.h"
 #include "mainapplication.h"
 #include "widgets/entrywidget/entrywidget.h"
+#include "widgets/keypad/keypaddialog.h"
 #include "widgets/parmcombobox/parmcombobox.h"
 #include "widgets/parmcombobox/parmlist.h"
 #include "widgets/parmlineedit/parmlineedit.h"
@@ -56,7 +58,9 @@ private slots:
     void heldEnterOpensThePadOnly();
     void homeActsOnce_data();
     void homeActsOnce();
+    void aDialogHearsF3NotHome_data();
     void aDialogHearsF3NotHome();
+    void aPadWaitsForTheTestApplication();
     void keysWithTestApplicationInFront();
     void enterOnADisabledControl();
     void enterOnAHiddenControl();
@@ -209,6 +213,8 @@ void TestKeys::homeActsOnce()
 {
     QFETCH(int, util);
     QFETCH(QString, keyboard);
+    if (keyboard.startsWith(QLatin1String("key pad")))
+        SKIP_UNDER_PROOT("the focus comes later than the key");
     m_window->changeCurrentUtil(util);
     QTRY_VERIFY(util == UTILITY_ID_ADVTOOL || page<CParmLineEdit>()); // the plug-in's own
     takeKeyboard();
@@ -233,12 +239,23 @@ void TestKeys::homeActsOnce()
     QCOMPARE(s_keysSeen, 1);
 }
 
+void TestKeys::aDialogHearsF3NotHome_data()
+{
+    QTest::addColumn<bool>("inPad");
+    QTest::newRow("dialog") << false;
+    QTest::newRow("key pad of a field in a dialog") << true;
+}
+
 void TestKeys::aDialogHearsF3NotHome()
 {
+    QFETCH(bool, inPad);
     m_window->changeCurrentUtil(UTILITY_ID_ADVTOOL);
     CDialog outer; // without a window behind that it could pass its keys on to
-    CDialog inner(&outer);
+    CParmLineEdit field(QStringLiteral("Name"), QString(), &outer);
+    CDialog box(&outer);
+    CKeyPadDialog pad(QStringLiteral("Name"), QString(), CKeyPadFactory::KeyPadText, &field);
     outer.show();
+    CDialog& inner = inPad ? pad : box;
     inner.show();
     inner.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&inner));
@@ -246,6 +263,22 @@ void TestKeys::aDialogHearsF3NotHome()
     tap(XK_F3); // forwarded at both dialogs, and passed on by one to the other
     QTRY_COMPARE(s_keysSeen, 1);
     QCOMPARE(m_window->currentUtil(), UTILITY_ID_ADVTOOL);
+}
+
+void TestKeys::aPadWaitsForTheTestApplication()
+{
+    m_window->changeCurrentUtil(UTILITY_ID_ADVTOOL);
+    CParmLineEdit field(QStringLiteral("Name"), QString(), page<CAdvanceMenu>());
+    field.show();
+    CWithDialog withPad([this](CDialog* pad) {
+        const auto closed = qScopeGuard([pad] { pad->reject(); });
+        m_window->setWindowVisible(false); // hides the page of the field
+        QVERIFY(pad->isVisible() && pad->isAside());
+        m_window->setWindowVisible(true);
+        QVERIFY(pad->isVisible() && !pad->isAside());
+    });
+    field.click();
+    QVERIFY(withPad.isDone());
 }
 
 void TestKeys::keysWithTestApplicationInFront()

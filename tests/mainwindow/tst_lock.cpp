@@ -75,6 +75,8 @@ private slots:
     void lockedScreenTakesNoTouch();
     void foreignGrabDelaysTheLock_data();
     void foreignGrabDelaysTheLock();
+    void grabTakenLaterIsNoticed();
+    void requestedRegionComesBack();
     void lockHoldsInsideDialogs_data();
     void lockHoldsInsideDialogs();
     void pageThatComesUpDoesNotUnlock();
@@ -155,7 +157,7 @@ void TestLock::foreignGrabDelaysTheLock()
     QVERIFY(lock);
     auto other = std::make_unique<CXScreen>();
     QVERIFY(other->grab(CXScreen::Grab(grab)));
-    QTest::ignoreMessage(QtWarningMsg, "Another client holds the pointer: touches are not locked yet");
+    QTest::ignoreMessage(QtWarningMsg, "Another client holds the pointer: touches are not locked");
     press(Qt::Key_F4);
     QCOMPARE(region(), WHOLE_SCREEN);
     QTest::ignoreMessage(QtWarningMsg, "The pointer is free again: touches are locked");
@@ -168,11 +170,42 @@ void TestLock::foreignGrabDelaysTheLock()
     // Unlocked before the other client lets go: nothing is tried any longer.
     other = std::make_unique<CXScreen>();
     QVERIFY(other->grab(CXScreen::Grab(grab)));
-    QTest::ignoreMessage(QtWarningMsg, "Another client holds the pointer: touches are not locked yet");
+    QTest::ignoreMessage(QtWarningMsg, "Another client holds the pointer: touches are not locked");
     press(Qt::Key_F4);
     press(Qt::Key_F4);
     other.reset();
     QVERIFY(m_screen.isTouchDelivered(below));
+}
+
+void TestLock::grabTakenLaterIsNoticed()
+{
+    const auto* lock = m_window->findChild<CPointerGrab*>();
+    press(Qt::Key_F4);
+    QVERIFY(lock->isHeld());
+    auto other = std::make_unique<CXScreen>();
+    QTest::ignoreMessage(QtWarningMsg, "Another client holds the pointer: touches are not locked");
+    QVERIFY(other->grab(CXScreen::GrabPointer));
+    QTRY_VERIFY(!lock->isHeld());
+    QTest::ignoreMessage(QtWarningMsg, "The pointer is free again: touches are locked");
+    other.reset();
+    QTRY_VERIFY(lock->isHeld());
+    press(Qt::Key_F4);
+}
+
+void TestLock::requestedRegionComesBack()
+{
+    const QRect own(0, 0, 100, 50);
+    m_window->setNonInteractiveRegion(CTouchControl::CutomizeRegion, own);
+    QCOMPARE(region(), own);
+    press(Qt::Key_F4);
+    QCOMPARE(region(), WHOLE_SCREEN);
+    press(Qt::Key_F4);
+    QCOMPARE(region(), own);
+    QVERIFY(m_screen.isTouchDelivered({400, 470})); // the lock's grab is gone
+    m_window->setNonInteractiveRegion(CTouchControl::FullScreen, QRect());
+    QVERIFY(!m_screen.isTouchDelivered({400, 470}));
+    m_window->setNonInteractiveRegion(CTouchControl::RegionNone, QRect());
+    QCOMPARE(region(), QRect());
 }
 
 void TestLock::lockHoldsInsideDialogs_data()

@@ -11,6 +11,7 @@
 
 #include "boxanswer.h"
 #include "drivenwindow.h"
+#include "infopage.h"
 #include "withdialog.h"
 #include "xscreen.h"
 
@@ -28,6 +29,9 @@ private slots:
     void requestsWaitForAPluginsOwnEventLoop();
     void calibrationNeedsConsent();
     void refusedCalibrationKeepsThePageThatIsClosed();
+    void closeOfAFilePageAsksNothing();
+    void boxesOfAKindDoNotPileUp();
+    void aStoppedPluginHearsNothing();
     void calibrationGivesTheInputBack();
     void pluginLifeCycle();
     void failedStartIsReported();
@@ -146,6 +150,66 @@ void TestSwitching::refusedCalibrationKeepsThePageThatIsClosed()
     QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
     QVERIFY(page<CAdvanceMenu>()->isHidden());
     QFile::remove(PLUGIN_DIR + QStringLiteral("libsettingscreen.so"));
+}
+
+void TestSwitching::closeOfAFilePageAsksNothing()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libsettingscreen.so"));
+    installFixture("libfixture_recorder.so", QStringLiteral("libresultman.so"));
+    CBoxAnswer consent("ok");
+    m_window->changeCurrentUtil(UTILITY_ID_SCREEN);
+    choose(UTILITY_ID_RESULT_MANAGER);
+    CBoxAnswer question("cancel");
+    m_window->triggerClose(); // as Home
+    QVERIFY(!question.isAnswered());
+    QVERIFY(page<CHomePage>()->isVisible());
+    QFile::remove(PLUGIN_DIR + QStringLiteral("libsettingscreen.so"));
+}
+
+void TestSwitching::boxesOfAKindDoNotPileUp()
+{
+    int above = 0;
+    CWithDialog box([this, &above](CDialog* dialog) {
+        CWithDialog second([&above](CDialog* other) {
+            ++above;
+            other->reject();
+        });
+        m_window->changeCurrentUtil(UTILITY_ID_HELP); // the same box again
+        m_window->changeCurrentUtil(UTILITY_ID_GLOBAL);
+        dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+    });
+    m_window->changeCurrentUtil(UTILITY_ID_HELP);
+    QVERIFY(box.isDone());
+    QCOMPARE(above, 0);
+    CBoxAnswer again("ok");
+    m_window->changeCurrentUtil(UTILITY_ID_HELP);
+    QVERIFY(again.isAnswered());
+
+    // Behind a test application it waits for the shell.
+    m_window->setWindowVisible(false);
+    CWithDialog behind([this](CDialog* dialog) {
+        QVERIFY(dialog->isAside());
+        QCOMPARE(region(), TEST_APP_AREA);
+        m_window->setWindowVisible(true);
+        dialog->findChild<CPushButton*>(QStringLiteral("ok"))->click();
+    });
+    m_window->changeCurrentUtil(UTILITY_ID_HELP);
+    QVERIFY(behind.isDone());
+}
+
+void TestSwitching::aStoppedPluginHearsNothing()
+{
+    installFixture("libfixture_recorder.so", QStringLiteral("libnetwiz.so"));
+    choose(UTILITY_ID_NET_WIZARD);
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
+    installFixture("libfixture_recorder.so", QStringLiteral("libresultman.so"));
+    choose(UTILITY_ID_RESULT_MANAGER); // its start window is up, the other page is gone
+    clearPluginCalls();
+    m_window->setWindowVisible(false);
+    m_window->setWindowVisible(true);
+    m_window->translate();
+    QCOMPARE(pluginCalls(), QStringList());
+    QTRY_VERIFY(pluginCalls().contains(QStringLiteral("start")));
 }
 
 void TestSwitching::calibrationGivesTheInputBack()
@@ -365,6 +429,15 @@ void TestSwitching::switchOverlay()
 
 void TestSwitching::missingLibraryShowsTheLoadersText()
 {
+    {
+        // The loader's own words, too, are in the user's language.
+        CBoxAnswer german("ok");
+        const CShellLanguage spoken(LANGUAGE_GERMAN);
+        QVERIFY(spoken.isLoaded());
+        choose(UTILITY_ID_NET_WIZARD);
+        QTRY_COMPARE(german.text(), QStringLiteral("Die Bibliothek wurde nicht gefunden."));
+        m_window->triggerHome();
+    }
     {
         CBoxAnswer none("ok"); // one without a library, whose error must not stay for the next
         m_window->changeCurrentUtil(UTILITY_ID_TOOLS);

@@ -1,8 +1,11 @@
+#include "innerpages.h"
 #include "touchstate.h"
 #include "transitions.h"
 
 #include <QStringList>
 #include <QTest>
+
+#include <stdexcept>
 
 Q_DECLARE_METATYPE(TouchState)
 
@@ -16,6 +19,8 @@ private slots:
     void touchOwner();
     void requestsAfterATransition();
     void askingTransitionLetsOthersIn();
+    void endAndExceptionLeaveNothingBehind();
+    void costlyPageIsMadeOnce();
 };
 
 void TestWindowRules::touchOwner_data()
@@ -59,6 +64,7 @@ void TestWindowRules::requestsAfterATransition()
     transitions.perform([&] {
         transitions.request(CTransitions::Utility, note("settings"));
         transitions.request(CTransitions::Visibility, note("away"));
+        transitions.request(CTransitions::Language, note("french"));
         transitions.request(CTransitions::Language, note("german"));
         transitions.request(CTransitions::Visibility, note("back"));
         transitions.perform(note("inner")); // a part of the same transition
@@ -82,6 +88,47 @@ void TestWindowRules::askingTransitionLetsOthersIn()
         transitions.perform([&] { done << QStringLiteral("asked"); });
     });
     QCOMPARE(done, QStringList({QStringLiteral("other"), QStringLiteral("asked")}));
+}
+
+void TestWindowRules::endAndExceptionLeaveNothingBehind()
+{
+    CTransitions transitions;
+    QStringList done;
+    const auto note = [&done](const char* what) { return [&done, what] { done << QLatin1String(what); }; };
+    QVERIFY_EXCEPTION_THROWN(transitions.perform([&] {
+        transitions.request(CTransitions::Utility, note("home"));
+        throw std::runtime_error("out of a plug-in");
+    }),
+        std::runtime_error);
+    QCOMPARE(done, QStringList(QStringLiteral("home")));
+    transitions.perform([&] {
+        transitions.request(CTransitions::Visibility, note("waited"));
+        transitions.close();
+    });
+    transitions.request(CTransitions::Utility, note("late"));
+    QCOMPARE(done, QStringList(QStringLiteral("home")));
+}
+
+void TestWindowRules::costlyPageIsMadeOnce()
+{
+    CInnerPages pages;
+    int made = 0;
+    int launched = 0;
+    auto* const page = reinterpret_cast<CWidget*>(&pages); // only handed through
+    pages.addLater(UTILITY_ID_HELP, [&] {
+        ++made;
+        return page;
+    });
+    pages.addLaunchWork([&] { ++launched; });
+    QVERIFY(pages.contains(UTILITY_ID_HELP) && !pages.contains(UTILITY_ID_GLOBAL));
+    pages.runLaunchWork();
+    pages.runLaunchWork();
+    QCOMPARE(launched, 1);
+    QCOMPARE(made, 0); // the work outside the page needs no page
+    QCOMPARE(pages.page(UTILITY_ID_HELP), page);
+    QCOMPARE(pages.page(UTILITY_ID_HELP), page);
+    QCOMPARE(made, 1);
+    QVERIFY(!pages.page(UTILITY_ID_GLOBAL));
 }
 
 QTEST_APPLESS_MAIN(TestWindowRules)

@@ -12,6 +12,8 @@
 #include <functional>
 #include <unistd.h>
 
+#include "backend.h"
+
 Q_DECLARE_METATYPE(std::function<bool(CPluginManager&)>)
 
 namespace {
@@ -134,6 +136,7 @@ void TestPluginManager::unusableFile()
 
 void TestPluginManager::unreadableFile()
 {
+    SKIP_UNDER_PROOT("nobody becomes another user");
     installFixture("libfixture_recorder.so", QStringLiteral("libvfl.so"));
     QVERIFY(QFile::setPermissions(pathOf("libvfl.so"), QFile::Permissions()));
     // root may read everything: look as somebody else for as long as it takes.

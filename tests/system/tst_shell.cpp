@@ -37,8 +37,10 @@ private slots:
 
 void TestShell::init()
 {
-    QDir(CONF_DIR).removeRecursively();
-    QFile::remove(CONF_DIR);
+    if (QFileInfo(CONF_DIR).isSymLink())
+        QFile::remove(CONF_DIR); // not what it leads to
+    else
+        QDir(CONF_DIR).removeRecursively();
     clearPluginCalls();
 }
 
@@ -99,7 +101,8 @@ void TestShell::xServerGoesAway()
     server.start(QStringLiteral("Xvfb"),
         {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
             QStringLiteral("800x480x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
-    QTRY_VERIFY(server.canReadLine() || !server.waitForReadyRead(100));
+    QTRY_VERIFY_WITH_TIMEOUT(
+        server.canReadLine() || (server.waitForReadyRead(100) && server.canReadLine()), 30000);
     const QString display = QStringLiteral(":") + QString::fromLatin1(server.readLine()).trimmed();
     CShellProcess shell({QStringLiteral("DISPLAY=") + display});
     QVERIFY(shell.waitForLog(QStringLiteral("### XGetWindowProperty")));

@@ -5,6 +5,7 @@
 #include "widgets/dialog/dialog.h"
 #include "widgets/entrywidget/entrywidget.h"
 #include "widgets/label/label.h"
+#include "widgets/progressbar/progressbar.h"
 #include "widgets/statusicon/statusicon.h"
 #include "widgets/toolbox/toolbox.h"
 #include "widgets/widgetstyle/stylepainter.h"
@@ -35,6 +36,7 @@ QImage look(QWidget* window, QWidget* control)
 } // namespace
 
 Q_DECLARE_METATYPE(MakeButton)
+Q_DECLARE_METATYPE(CThemeColor)
 
 class CControlsSuite : public QObject
 {
@@ -112,6 +114,34 @@ private slots:
             for (int k = 0; k < i; ++k)
                 QVERIFY2(
                     looks.at(i) != looks.at(k), qPrintable(QStringLiteral("states %1 and %2").arg(k).arg(i)));
+        }
+    }
+
+    void everyKindOfColourIsPainted_data()
+    {
+        QTest::addColumn<CThemeColor>("color");
+        QTest::addColumn<QColor>("painted");
+        QTest::newRow("outright") << CThemeColor(QColor(1, 2, 3)) << QColor(1, 2, 3);
+        QTest::newRow("text") << CThemeColor(QStringLiteral("#102030")) << QColor(0x10, 0x20, 0x30);
+        QTest::newRow("name that has a code's number") << CThemeColor(Qt::red) << QColor(255, 0, 0);
+        QTest::newRow("code") << CThemeColor(CWidgetStyle::ColorAlert) << QColor(0xb2, 0x36, 0x2f);
+        QTest::newRow("code's number") << CThemeColor(7) << QColor(0xb2, 0x36, 0x2f);
+    }
+
+    void everyKindOfColourIsPainted()
+    {
+        QFETCH(CThemeColor, color);
+        QFETCH(QColor, painted);
+        CWidget widget;
+        widget.setBackgroundColor(color);
+        CPushButton button;
+        button.setBackgroundColor(color);
+        CProgressBar bar;
+        bar.setBarColor(color);
+        bar.setValue(bar.maximum());
+        for (QWidget* control : std::initializer_list<QWidget*>{&widget, &button, &bar}) {
+            control->resize(80, 40);
+            QCOMPARE(control->grab().toImage().pixelColor(40, 20), painted);
         }
     }
 

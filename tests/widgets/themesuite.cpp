@@ -30,8 +30,8 @@ QString snapshot()
         out << CWidgetStyle::getButtonLook(i).fill.name() << CWidgetStyle::getButtonLook(i).frameWidth;
     for (int i = 0; i <= 10; ++i)
         out << CWidgetStyle::getEntryColor(i).name();
-    for (const char* name : {"touchTarget", "entryWidth", "toolItemHeight", "focusWidth"})
-        out << CWidgetStyle::getMetric(QLatin1String(name), -1);
+    for (int i = 0; i < CWidgetStyle::MetricFieldHeight; ++i) // the last one is changed beside the others
+        out << CWidgetStyle::getMetric(CWidgetStyle::Metric(i));
     return text;
 }
 
@@ -98,16 +98,17 @@ private slots:
         QTest::newRow("tile of unknown type") << QByteArray("<entry type=\"11\" value=\"#ff0000\"/>");
         QTest::newRow("metric that is no number")
             << QByteArray("<metric name=\"entryWidth\" value=\"wide\"/>");
+        QTest::newRow("metric of unknown name") << QByteArray("<metric name=\"entryWidht\" value=\"9\"/>");
     }
 
     void unusableEntryKeepsItsValue()
     {
         QFETCH(QByteArray, entry);
-        const QString name = write(themeFile(entry + "<metric name=\"beside\" value=\"12\"/>"));
+        const QString name = write(themeFile(entry + "<metric name=\"fieldHeight\" value=\"12\"/>"));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("unusable")));
         QVERIFY(CWidgetStyle::initialize(name));
         QCOMPARE(snapshot(), m_builtIn);
-        QCOMPARE(CWidgetStyle::getMetric(QStringLiteral("beside"), 0), 12); // the entry after it counts
+        QCOMPARE(CWidgetStyle::getMetric(CWidgetStyle::MetricFieldHeight), 12); // the entry after it counts
     }
 
     void goodEntriesAreTakenOver()
@@ -124,7 +125,7 @@ private slots:
         QVERIFY(CWidgetStyle::getFont(CWidgetStyle::FontToolItem).bold());
         QCOMPARE(CWidgetStyle::getScreenRegion(3), QRect(1, 2, 3, 4));
         QCOMPARE(CWidgetStyle::getEntryColor(2), QColor(0x44, 0x55, 0x66));
-        QCOMPARE(CWidgetStyle::getMetric(QStringLiteral("entryWidth"), 0), 200);
+        QCOMPARE(CWidgetStyle::getMetric(CWidgetStyle::MetricEntryWidth), 200);
         QCOMPARE(
             CWidgetStyle::getColor(CWidgetStyle::ColorScreen), QColor(0x2b, 0x2f, 0x4a)); // not in the file
 
@@ -161,10 +162,10 @@ private slots:
 
     void anotherThemeKeepsNothingOfTheOld()
     {
-        QVERIFY(CWidgetStyle::initialize(
-            write(themeFile("<metric name=\"old\" value=\"1\"/><color code=\"0\" value=\"#ff0000\"/>"))));
+        QVERIFY(CWidgetStyle::initialize(write(
+            themeFile("<metric name=\"entryTop\" value=\"1\"/><color code=\"0\" value=\"#ff0000\"/>"))));
         CWidgetStyle::setWidgetStyle(write(themeFile("<color code=\"1\" value=\"#00ff00\"/>")));
-        QCOMPARE(CWidgetStyle::getMetric(QStringLiteral("old"), 0), 0);
+        QCOMPARE(CWidgetStyle::getMetric(CWidgetStyle::MetricEntryTop), 20);
         QCOMPARE(CWidgetStyle::getColor(0), QColor(0x2b, 0x2f, 0x4a));
         QCOMPARE(CWidgetStyle::getColor(1), QColor(0, 255, 0));
     }

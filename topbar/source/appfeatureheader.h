@@ -28,7 +28,6 @@ public:
 
     /** The title; empty shows none. */
     void setTopText(const QString& text);
-    QString topText() const { return m_topText; }
 
     /** The path, its steps separated by ">"; empty steps are left out. */
     void setNavigationText(const QString& text);

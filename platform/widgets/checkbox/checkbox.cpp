@@ -48,7 +48,7 @@ void CCheckBox::setSkinEnabled(bool enabled)
 
 QSize CCheckBox::sizeHint() const
 {
-    const int target = CWidgetStyle::getMetric(QStringLiteral("touchTarget"), 40);
+    const int target = CWidgetStyle::getMetric(CWidgetStyle::MetricTouchTarget);
     const int textWidth = QFontMetrics(textFont(CWidgetStyle::FontText)).size(0, text()).width();
     return QSize(2 * Margin + BoxSize + (text().isEmpty() ? 0 : Gap + textWidth), target);
 }

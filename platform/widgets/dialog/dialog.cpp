@@ -23,7 +23,7 @@ constexpr int PressShown = 100; // ms that a button pressed by key looks pressed
 
 int scrimOpacity()
 {
-    return std::clamp(CWidgetStyle::getMetric(QStringLiteral("scrimOpacity"), 90), 0, 254);
+    return std::clamp(CWidgetStyle::getMetric(CWidgetStyle::MetricScrimOpacity), 0, 254);
 }
 
 /** The veil over the window behind a dialog. */
@@ -99,27 +99,15 @@ CDialog::~CDialog()
     delete m_pScrim;
 }
 
-void CDialog::setBackgroundColor(const QColor& color)
+void CDialog::setBackgroundColor(const CThemeColor& color)
 {
     m_frame.setBackgroundColor(color);
     update();
 }
 
-void CDialog::setBackgroundColor(int colorCode)
-{
-    m_frame.setBackgroundColor(colorCode);
-    update();
-}
-
-void CDialog::setBorderColor(const QColor& color)
+void CDialog::setBorderColor(const CThemeColor& color)
 {
     m_frame.setBorderColor(color);
-    roundCorners();
-}
-
-void CDialog::setBorderColor(int colorCode)
-{
-    m_frame.setBorderColor(colorCode);
     roundCorners();
 }
 
@@ -318,7 +306,7 @@ int CDialog::cornerRadius() const
 {
     const QSize page = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionPageFrame).size();
     const bool isPage = width() >= page.width() || height() >= page.height();
-    return isPage ? 0 : CWidgetStyle::getMetric(QStringLiteral("dialogRadius"), 10);
+    return isPage ? 0 : CWidgetStyle::getMetric(CWidgetStyle::MetricDialogRadius);
 }
 
 void CDialog::roundCorners()

@@ -29,15 +29,8 @@ public:
     explicit CDialog(QWidget* parent = nullptr);
     ~CDialog() override;
 
-    void setBackgroundColor(const QColor& color);
-    void setBackgroundColor(int colorCode);
-    void setBackgroundColor(Qt::GlobalColor color)
-    {
-        setBackgroundColor(QColor(color));
-    } // it is no colour code
-    void setBorderColor(const QColor& color);
-    void setBorderColor(int colorCode);
-    void setBorderColor(Qt::GlobalColor color) { setBorderColor(QColor(color)); }
+    void setBackgroundColor(const CThemeColor& color);
+    void setBorderColor(const CThemeColor& color);
     void setBorderWidth(int width);
     /** The label across the top of the inner rectangle: its upper corners follow the dialog's. */
     void setTitleLabel(CLabel* title);

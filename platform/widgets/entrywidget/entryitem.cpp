@@ -30,8 +30,8 @@ void CEntryItem::setLabel(const QString& label)
 
 QSize CEntryItem::sizeHint() const
 {
-    return QSize(CWidgetStyle::getMetric(QStringLiteral("entryWidth"), 288),
-        CWidgetStyle::getMetric(QStringLiteral("entryHeight"), 80));
+    return QSize(CWidgetStyle::getMetric(CWidgetStyle::MetricEntryWidth),
+        CWidgetStyle::getMetric(CWidgetStyle::MetricEntryHeight));
 }
 
 void CEntryItem::paintEvent(QPaintEvent*)
@@ -40,7 +40,7 @@ void CEntryItem::paintEvent(QPaintEvent*)
         m_picture = QPixmap::fromImage(readPicture(m_pictureName));
         m_pictureName.clear();
     }
-    const int radius = CWidgetStyle::getMetric(QStringLiteral("entryRadius"), 10);
+    const int radius = CWidgetStyle::getMetric(CWidgetStyle::MetricEntryRadius);
     QColor ground = isEnabled() ? CWidgetStyle::getEntryColor(m_colorType)
                                 : CWidgetStyle::getColor(CWidgetStyle::ColorDisabled);
     if (isDown())

@@ -63,9 +63,9 @@ void CEntryWidget::resizeEvent(QResizeEvent* event)
 
 void CEntryWidget::layoutCells()
 {
-    const int gapX = CWidgetStyle::getMetric(QStringLiteral("entryGapX"), 16);
-    const int gapY = CWidgetStyle::getMetric(QStringLiteral("entryGapY"), 14);
-    const int top = CWidgetStyle::getMetric(QStringLiteral("entryTop"), 20);
+    const int gapX = CWidgetStyle::getMetric(CWidgetStyle::MetricEntryGapX);
+    const int gapY = CWidgetStyle::getMetric(CWidgetStyle::MetricEntryGapY);
+    const int top = CWidgetStyle::getMetric(CWidgetStyle::MetricEntryTop);
     for (const Cell& cell : qAsConst(m_cells)) {
         const QSize size = cell.item->sizeHint();
         const int left = (width() - Columns * size.width() - (Columns - 1) * gapX) / 2;

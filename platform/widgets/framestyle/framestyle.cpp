@@ -1,30 +1,20 @@
 #include "widgets/framestyle/framestyle.h"
 
 #include "widgets/widgetstyle/stylepainter.h"
-#include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
-void CFrameStyle::setBackgroundColor(const QColor& color)
+bool CFrameStyle::setBackgroundColor(const CThemeColor& color)
 {
-    m_background = {color, -1};
+    return std::exchange(m_background, color) != color;
 }
 
-void CFrameStyle::setBackgroundColor(int colorCode)
+bool CFrameStyle::setBorderColor(const CThemeColor& color)
 {
-    m_background = {QColor(), colorCode};
-}
-
-void CFrameStyle::setBorderColor(const QColor& color)
-{
-    m_border = {color, -1};
-}
-
-void CFrameStyle::setBorderColor(int colorCode)
-{
-    m_border = {QColor(), colorCode};
+    return std::exchange(m_border, color) != color;
 }
 
 bool CFrameStyle::setBackgroundPicture(const QPixmap& picture)
@@ -44,21 +34,6 @@ void CFrameStyle::setRounded(int radius, Corners corners)
 {
     m_radius = std::max(0, radius);
     m_rounded = corners;
-}
-
-QColor CFrameStyle::backgroundColor() const
-{
-    return m_background.resolved();
-}
-
-QColor CFrameStyle::borderColor() const
-{
-    return m_border.resolved();
-}
-
-bool CFrameStyle::hasBackground() const
-{
-    return !m_picture.isNull() || backgroundColor().isValid();
 }
 
 void CFrameStyle::paint(QPainter& painter, const QRect& rect) const
@@ -91,9 +66,4 @@ void CFrameStyle::paint(QPainter& painter, const QRect& rect) const
         if (!side.isEmpty())
             painter.fillRect(side, line);
     }
-}
-
-QColor CFrameStyle::Paint::resolved() const
-{
-    return code < 0 ? color : CWidgetStyle::getColor(code);
 }

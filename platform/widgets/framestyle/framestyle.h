@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QColor>
+#include "widgets/widgetstyle/themecolor.h"
+
 #include <QMargins>
 #include <QPixmap>
 #include <QString>
@@ -18,20 +19,10 @@ class QRect;
 class CFrameStyle
 {
 public:
-    /** Colour given outright, or by its code in the theme; the later call wins. An invalid colour paints
-     * nothing. */
-    void setBackgroundColor(const QColor& color);
-    void setBackgroundColor(int colorCode);
-    void setBackgroundColor(Qt::GlobalColor color)
-    {
-        setBackgroundColor(QColor(color));
-    } // it is no colour code
-    void setBorderColor(const QColor& color);
-    void setBorderColor(int colorCode);
-    void setBorderColor(Qt::GlobalColor color) { setBorderColor(QColor(color)); }
-
-    /** Picture drawn at the top-left corner over the background colour; a null picture removes it. @return
-     * whether it changed */
+    /** No colour paints nothing. @return whether it changed; so the next two */
+    bool setBackgroundColor(const CThemeColor& color);
+    bool setBorderColor(const CThemeColor& color);
+    /** Picture drawn at the top-left corner over the background colour; a null picture removes it. */
     bool setBackgroundPicture(const QPixmap& picture);
 
     /** Width of each side in pixels; negative widths count as 0. */
@@ -42,23 +33,15 @@ public:
     /** Rounds corners of the background, at the inside of the border, whose colour fills what they leave. */
     void setRounded(int radius, Corners corners);
 
-    QColor backgroundColor() const;
-    QColor borderColor() const;
-    bool hasBackground() const;
+    QColor backgroundColor() const { return m_background.color(); }
+    QColor borderColor() const { return m_border.color(); }
 
     /** Fills `rect` and draws the border just inside it. */
     void paint(QPainter& painter, const QRect& rect) const;
 
 private:
-    struct Paint
-    {
-        QColor color;
-        int code = -1; // a theme colour code, or -1 for `color`
-        QColor resolved() const;
-    };
-
-    Paint m_background;
-    Paint m_border;
+    CThemeColor m_background;
+    CThemeColor m_border;
     QPixmap m_picture;
     QMargins m_widths;
     int m_radius = 0;

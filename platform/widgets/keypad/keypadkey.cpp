@@ -108,5 +108,5 @@ void CKeyPadKey::paintEvent(QPaintEvent* event)
     if (m_locked)
         painter.drawLine(QPointF(-6, 13), QPointF(6, 13));
     painter.restore();
-    paintFocusMarker(painter, CWidgetStyle::getMetric(QStringLiteral("buttonRadius"), 8));
+    paintFocusMarker(painter, CWidgetStyle::getMetric(CWidgetStyle::MetricButtonRadius));
 }

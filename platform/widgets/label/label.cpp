@@ -15,7 +15,6 @@ CLabel::CLabel(QWidget* parent)
 CLabel::CLabel(const QString& text, QWidget* parent)
     : CWidget(parent)
     , m_text(text)
-    , m_colorCode(CWidgetStyle::ColorTextLight)
 {
     setTypeCode(TypeLabel);
 }
@@ -29,20 +28,11 @@ void CLabel::setText(const QString& text)
     update();
 }
 
-void CLabel::setTextColor(const QColor& color)
+void CLabel::setTextColor(const CThemeColor& color)
 {
-    if (m_colorCode < 0 && m_color == color)
+    if (m_color == color)
         return;
     m_color = color;
-    m_colorCode = -1;
-    update();
-}
-
-void CLabel::setTextColor(int colorCode)
-{
-    if (m_colorCode == colorCode)
-        return;
-    m_colorCode = colorCode;
     update();
 }
 
@@ -108,8 +98,7 @@ void CLabel::paintEvent(QPaintEvent* event)
     CWidget::paintEvent(event);
     QPainter painter(this);
     painter.setFont(textFont());
-    const QColor color = m_colorCode < 0 ? m_color : CWidgetStyle::getColor(m_colorCode);
-    CStylePainter::paintText(painter, innerRect(), m_alignment, m_text, color, m_wrap);
+    CStylePainter::paintText(painter, innerRect(), m_alignment, m_text, m_color.color(), m_wrap);
 }
 
 QFont CLabel::textFont() const

@@ -16,9 +16,7 @@ public:
 
     void setText(const QString& text);
     QString text() const { return m_text; }
-    void setTextColor(const QColor& color);
-    void setTextColor(int colorCode);
-    void setTextColor(Qt::GlobalColor color) { setTextColor(QColor(color)); } // it is no colour code
+    void setTextColor(const CThemeColor& color);
     /** Pixel size; 0 takes the theme's, or that of setFont(). */
     void setTextSize(int pixels);
     void setBold(bool bold);
@@ -36,8 +34,7 @@ private:
     QFont textFont() const;
 
     QString m_text;
-    QColor m_color;
-    int m_colorCode;
+    CThemeColor m_color = CWidgetStyle::ColorTextLight;
     int m_textSize = 0;
     bool m_bold = false;
     bool m_wrap = false;

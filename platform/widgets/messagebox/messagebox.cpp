@@ -39,7 +39,7 @@ QString bounded(const QString& text)
 
 int buttonHeight()
 {
-    return CWidgetStyle::getMetric(QStringLiteral("messageButtonHeight"), 42);
+    return CWidgetStyle::getMetric(CWidgetStyle::MetricMessageButtonHeight);
 }
 
 } // namespace
@@ -81,14 +81,14 @@ CMessageBox::CMessageBox(const QString& title, const QString& text, Buttons butt
     adjustToText();
 }
 
-void CMessageBox::setTitleBackgroundColor(int colorCode)
+void CMessageBox::setTitleBackgroundColor(const CThemeColor& color)
 {
-    m_pTitle->setBackgroundColor(colorCode);
+    m_pTitle->setBackgroundColor(color);
 }
 
-void CMessageBox::setTitleTextColor(int colorCode)
+void CMessageBox::setTitleTextColor(const CThemeColor& color)
 {
-    m_pTitle->setTextColor(colorCode);
+    m_pTitle->setTextColor(color);
 }
 
 void CMessageBox::setTitleTextSize(int pixels)
@@ -103,9 +103,9 @@ void CMessageBox::setMessageTextSize(int pixels)
     adjustToText();
 }
 
-void CMessageBox::setMessageTextColor(int colorCode)
+void CMessageBox::setMessageTextColor(const CThemeColor& color)
 {
-    m_pText->setTextColor(colorCode);
+    m_pText->setTextColor(color);
 }
 
 void CMessageBox::setMessageAlignment(Qt::Alignment alignment)
@@ -177,9 +177,8 @@ void CMessageBox::adjustToText()
     const QSize room = CWidgetStyle::getScreenRegion(CWidgetStyle::RegionWorkingArea)
                            .marginsRemoved({Air, Air, Air, Air})
                            .size();
-    const int widest
-        = std::min(CWidgetStyle::getMetric(QStringLiteral("messageMaxWidth"), 600), room.width());
-    const int narrowest = std::min(CWidgetStyle::getMetric(QStringLiteral("messageMinWidth"), 400), widest);
+    const int widest = std::min(CWidgetStyle::getMetric(CWidgetStyle::MetricMessageMaxWidth), room.width());
+    const int narrowest = std::min(CWidgetStyle::getMetric(CWidgetStyle::MetricMessageMinWidth), widest);
     const int frame = 2 * (Border + Margin);
     const int wanted = std::max({m_pText->sizeHint().width() + frame, m_pTitle->sizeHint().width() + frame,
         buttonRowWidth() + frame});
@@ -204,7 +203,7 @@ void CMessageBox::layoutParts()
     int left = inner.left() + (inner.width() - buttonRowWidth()) / 2;
     for (CPushButton* button : qAsConst(m_buttons)) {
         const int width = std::max(
-            CWidgetStyle::getMetric(QStringLiteral("messageButtonWidth"), 120), button->sizeHint().width());
+            CWidgetStyle::getMetric(CWidgetStyle::MetricMessageButtonWidth), button->sizeHint().width());
         button->setGeometry(left, rowTop, width, buttonHeight());
         left += width + ButtonGap;
     }
@@ -214,7 +213,7 @@ int CMessageBox::buttonRowWidth() const
 {
     int width = 0;
     for (const CPushButton* button : m_buttons)
-        width += std::max(CWidgetStyle::getMetric(QStringLiteral("messageButtonWidth"), 120),
+        width += std::max(CWidgetStyle::getMetric(CWidgetStyle::MetricMessageButtonWidth),
                      button->sizeHint().width())
             + ButtonGap;
     return std::max(0, width - ButtonGap);
@@ -229,6 +228,6 @@ int CMessageBox::textHeight(int boxWidth) const
 
 int CMessageBox::titleHeight() const
 {
-    const int least = CWidgetStyle::getMetric(QStringLiteral("messageTitleHeight"), 42);
+    const int least = CWidgetStyle::getMetric(CWidgetStyle::MetricMessageTitleHeight);
     return std::max(least, m_pTitle->sizeHint().height() + Margin / 2);
 }

@@ -19,12 +19,12 @@ public:
 
     CMessageBox(const QString& title, const QString& text, Buttons buttons, QWidget* parent = nullptr);
 
-    void setTitleBackgroundColor(int colorCode);
-    void setTitleTextColor(int colorCode);
+    void setTitleBackgroundColor(const CThemeColor& color);
+    void setTitleTextColor(const CThemeColor& color);
     /** Pixel sizes. */
     void setTitleTextSize(int pixels);
     void setMessageTextSize(int pixels);
-    void setMessageTextColor(int colorCode);
+    void setMessageTextColor(const CThemeColor& color);
     void setMessageAlignment(Qt::Alignment alignment);
 
     /** As shown; of a text too long for any box its beginning. */

@@ -84,7 +84,7 @@ QRect CParmList::rowRect(int row) const
 void CParmList::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(0, 0, 0, CWidgetStyle::getMetric(QStringLiteral("scrimOpacity"), 90)));
+    painter.fillRect(rect(), QColor(0, 0, 0, CWidgetStyle::getMetric(CWidgetStyle::MetricScrimOpacity)));
     CStylePainter::paintPlate(painter, m_list, ListRadius, CWidgetStyle::getColor(CWidgetStyle::ColorField),
         CWidgetStyle::getColor(CWidgetStyle::ColorAccent), Border);
     painter.setClipRect(innerList());

@@ -17,7 +17,7 @@ constexpr int SideBySide = 2; // caption and value have half the width each
 
 int rowRadius()
 {
-    return CWidgetStyle::getMetric(QStringLiteral("buttonRadius"), 8);
+    return CWidgetStyle::getMetric(CWidgetStyle::MetricButtonRadius);
 }
 
 } // namespace
@@ -42,7 +42,7 @@ QSize CParmField::sizeHint() const
     const int captionWidth = 2 * Padding + metrics.horizontalAdvance(m_caption);
     const int valueWidth = 2 * Padding + metrics.horizontalAdvance(longestValue()) + SignWidth;
     return QSize(SideBySide * std::max(captionWidth, valueWidth),
-        CWidgetStyle::getMetric(QStringLiteral("fieldHeight"), 44));
+        CWidgetStyle::getMetric(CWidgetStyle::MetricFieldHeight));
 }
 
 void CParmField::valueChanged()

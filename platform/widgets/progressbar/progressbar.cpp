@@ -12,9 +12,10 @@ namespace {
 constexpr int Border = 1;
 constexpr int Gap = 2; // between border and bar, so that a full bar still shows its border
 
-QColor colorOr(const QColor& color, int code)
+QColor colorOr(const CThemeColor& color, int code)
 {
-    return color.isValid() ? color : CWidgetStyle::getColor(code);
+    const QColor own = color.color();
+    return own.isValid() ? own : CWidgetStyle::getColor(code);
 }
 
 } // namespace
@@ -25,7 +26,7 @@ CProgressBar::CProgressBar(QWidget* parent)
     setTextVisible(false);
 }
 
-void CProgressBar::setBorderColor(const QColor& color)
+void CProgressBar::setBorderColor(const CThemeColor& color)
 {
     if (m_border == color)
         return;
@@ -33,7 +34,7 @@ void CProgressBar::setBorderColor(const QColor& color)
     update();
 }
 
-void CProgressBar::setBarColor(const QColor& color)
+void CProgressBar::setBarColor(const CThemeColor& color)
 {
     if (m_bar == color)
         return;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QColor>
+#include "widgets/widgetstyle/themecolor.h"
+
 #include <QProgressBar>
 
 /**
@@ -15,14 +16,14 @@ class CProgressBar : public QProgressBar
 public:
     explicit CProgressBar(QWidget* parent = nullptr);
 
-    /** Border and bar; an invalid colour takes the theme's frame and accent again. */
-    void setBorderColor(const QColor& color);
-    void setBarColor(const QColor& color);
+    /** Border and bar; no colour takes the theme's frame and accent again. */
+    void setBorderColor(const CThemeColor& color);
+    void setBarColor(const CThemeColor& color);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QColor m_border;
-    QColor m_bar;
+    CThemeColor m_border;
+    CThemeColor m_bar;
 };

@@ -18,7 +18,7 @@ constexpr qreal DisabledOpacity = 0.4;
 
 int buttonRadius()
 {
-    return CWidgetStyle::getMetric(QStringLiteral("buttonRadius"), 8);
+    return CWidgetStyle::getMetric(CWidgetStyle::MetricButtonRadius);
 }
 
 bool sameValue(const QVariant& one, const QVariant& other)
@@ -40,8 +40,8 @@ CPushButton::CPushButton(const QString& text, QWidget* parent)
     installTouchRegion();
     setFocusPolicy(Qt::NoFocus);
     setAutoDefault(false);
-    resize(CWidgetStyle::getMetric(QStringLiteral("messageButtonWidth"), 120),
-        CWidgetStyle::getMetric(QStringLiteral("messageButtonHeight"), 42));
+    resize(CWidgetStyle::getMetric(CWidgetStyle::MetricMessageButtonWidth),
+        CWidgetStyle::getMetric(CWidgetStyle::MetricMessageButtonHeight));
 }
 
 void CPushButton::setExtraAttribute(ExtraAttribute attribute, const QVariant& value)
@@ -84,7 +84,7 @@ void CPushButton::setBackgroundImage(const QPixmap& picture)
     update();
 }
 
-void CPushButton::setBackgroundColor(const QColor& color)
+void CPushButton::setBackgroundColor(const CThemeColor& color)
 {
     if (m_fill == color)
         return;
@@ -92,7 +92,7 @@ void CPushButton::setBackgroundColor(const QColor& color)
     update();
 }
 
-void CPushButton::setTextColor(const QColor& color)
+void CPushButton::setTextColor(const CThemeColor& color)
 {
     if (m_textColor == color)
         return;
@@ -120,7 +120,7 @@ void CPushButton::setArrowKeyFocus(bool on)
 
 QSize CPushButton::sizeHint() const
 {
-    const int target = CWidgetStyle::getMetric(QStringLiteral("touchTarget"), 40);
+    const int target = CWidgetStyle::getMetric(CWidgetStyle::MetricTouchTarget);
     const QFontMetrics metrics(textFont(CWidgetStyle::FontButton));
     QSize size = metrics.size(0, text());
     if (!icon().isNull()) {
@@ -129,7 +129,7 @@ QSize CPushButton::sizeHint() const
     }
     return QSize(size.width() + 2 * (Padding + PlateInset), size.height() + Padding)
         .expandedTo(QSize(
-            target, std::max(target, CWidgetStyle::getMetric(QStringLiteral("messageButtonHeight"), 42))));
+            target, std::max(target, CWidgetStyle::getMetric(CWidgetStyle::MetricMessageButtonHeight))));
 }
 
 void CPushButton::updateWidgetStyle()
@@ -196,10 +196,11 @@ QColor CPushButton::currentTextColor() const
 void CPushButton::paintGround(QPainter& painter) const
 {
     const int radius = buttonRadius();
+    const QColor fill = m_fill.color();
     const Ground ground = currentGround();
     if (ground.isSet()) {
-        if (m_fill.isValid())
-            painter.fillRect(rect(), m_fill);
+        if (fill.isValid())
+            painter.fillRect(rect(), fill);
         paintOne(painter, ground);
         return;
     }
@@ -208,9 +209,9 @@ void CPushButton::paintGround(QPainter& painter) const
                                     : CWidgetStyle::ButtonReleased;
     if (isEnabled() && !isDown() && isChecked()) {
         CStylePainter::paintChosen(painter, rect(), radius);
-    } else if (m_fill.isValid()) {
-        CStylePainter::paintPlate(painter, rect(), radius, m_fill);
-        if (status != CWidgetStyle::ButtonReleased || !standsOut(m_fill))
+    } else if (fill.isValid()) {
+        CStylePainter::paintPlate(painter, rect(), radius, fill);
+        if (status != CWidgetStyle::ButtonReleased || !standsOut(fill))
             CStylePainter::paintButton(
                 painter, rect().adjusted(PlateInset, PlateInset, -PlateInset, -PlateInset), status);
     } else {
@@ -245,7 +246,7 @@ CPushButton::Ground CPushButton::groundOf(const QVariant& value)
     } else if (value.userType() == QMetaType::QColor) {
         ground.color = value.value<QColor>();
     } else if (value.canConvert<int>()) {
-        ground.colorCode = value.toInt();
+        ground.color = value.toInt();
     }
     return ground;
 }
@@ -271,7 +272,7 @@ void CPushButton::paintOne(QPainter& painter, const Ground& ground) const
         CStylePainter::paintButton(painter, rect(), status);
         return;
     }
-    const QColor color = ground.colorCode >= 0 ? CWidgetStyle::getColor(ground.colorCode) : ground.color;
+    const QColor color = ground.color.color();
     if (color.isValid())
         CStylePainter::paintPlate(painter, rect(), buttonRadius(), color);
     CStylePainter::paintPicture(painter, rect(), ground.picture, isEnabled() ? 1.0 : DisabledOpacity);
@@ -286,8 +287,7 @@ void CPushButton::paintOne(QPainter& painter, const Ground& ground) const
 
 QColor CPushButton::attributeColor(ExtraAttribute attribute) const
 {
-    const Ground ground = groundOf(m_attributes.value(attribute));
-    return ground.colorCode >= 0 ? CWidgetStyle::getColor(ground.colorCode) : ground.color;
+    return groundOf(m_attributes.value(attribute)).color.color();
 }
 
 bool CPushButton::standsOut(const QColor& fill) const

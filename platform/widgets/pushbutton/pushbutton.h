@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QColor>
+#include "widgets/widgetstyle/themecolor.h"
+
 #include <QHash>
 #include <QPixmap>
 #include <QPushButton>
@@ -47,11 +48,11 @@ public:
     /** Picture of the released state, drawn over the fill and under icon and text. */
     void setBackgroundImage(const QPixmap& picture);
     /**
-     * Fill instead of the standard button; an invalid colour goes back to the standard look. On a fill on
-     * which the text cannot be read, the text gets the standard button as its plate.
+     * Fill instead of the standard button; no colour goes back to the standard look. On a fill on which the
+     * text cannot be read, the text gets the standard button as its plate.
      */
-    void setBackgroundColor(const QColor& color);
-    void setTextColor(const QColor& color);
+    void setBackgroundColor(const CThemeColor& color);
+    void setTextColor(const CThemeColor& color);
     /** Pixel size of the text; 0 takes the theme's, or that of setFont(). */
     void setTextSize(int pixels);
 
@@ -75,7 +76,8 @@ protected:
     /** The text colour set, `fallback` if none was. */
     QColor textColorOr(const QColor& fallback) const
     {
-        return m_textColor.isValid() ? m_textColor : fallback;
+        const QColor own = m_textColor.color();
+        return own.isValid() ? own : fallback;
     }
     /** Everything under icon and text in the present state. */
     void paintGround(QPainter& painter) const;
@@ -90,13 +92,9 @@ private:
     struct Ground
     {
         QPixmap picture;
-        QColor color;
+        CThemeColor color;
         int buttonStatus = -1;
-        int colorCode = -1;
-        bool isSet() const
-        {
-            return buttonStatus >= 0 || colorCode >= 0 || color.isValid() || !picture.isNull();
-        }
+        bool isSet() const { return buttonStatus >= 0 || color.isSet() || !picture.isNull(); }
     };
 
     static Ground groundOf(const QVariant& value);
@@ -108,8 +106,8 @@ private:
     QHash<int, QVariant> m_attributes;
     QHash<int, Ground> m_grounds; // of the three background attributes
     Ground m_background;
-    QColor m_fill;
-    QColor m_textColor;
+    CThemeColor m_fill;
+    CThemeColor m_textColor;
     int m_textSize = 0;
     bool m_arrowKeyFocus = false;
 };

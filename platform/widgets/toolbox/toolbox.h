@@ -26,7 +26,6 @@ public:
     void setPageText(int page, const QString& text);
     void setItemText(int page, int item, const QString& text);
     QString itemText(int page, int item) const;
-    int pageCount() const { return m_pages.size(); }
     int itemCount(int page) const;
     bool hasItem(int id) const;
 

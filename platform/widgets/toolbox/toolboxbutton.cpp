@@ -32,8 +32,8 @@ void CToolBoxButton::setActive(bool active)
 
 QSize CToolBoxButton::sizeHint() const
 {
-    const int height = m_role == PageHeader ? CWidgetStyle::getMetric(QStringLiteral("toolPageHeight"), 46)
-                                            : CWidgetStyle::getMetric(QStringLiteral("toolItemHeight"), 48);
+    const int height = m_role == PageHeader ? CWidgetStyle::getMetric(CWidgetStyle::MetricToolPageHeight)
+                                            : CWidgetStyle::getMetric(CWidgetStyle::MetricToolItemHeight);
     return QSize(CWidgetStyle::getScreenRegion(CWidgetStyle::RegionToolBox).width(), height);
 }
 

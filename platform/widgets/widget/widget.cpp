@@ -14,19 +14,9 @@ CWidget::CWidget(QWidget* parent, Qt::WindowFlags flags)
     installKeyWatch();
 }
 
-void CWidget::setBackgroundColor(const QColor& color)
+void CWidget::setBackgroundColor(const CThemeColor& color)
 {
-    const QColor before = m_frame.backgroundColor();
-    m_frame.setBackgroundColor(color);
-    if (before != m_frame.backgroundColor())
-        update();
-}
-
-void CWidget::setBackgroundColor(int colorCode)
-{
-    const QColor before = m_frame.backgroundColor();
-    m_frame.setBackgroundColor(colorCode);
-    if (before != m_frame.backgroundColor())
+    if (m_frame.setBackgroundColor(color))
         update();
 }
 
@@ -36,19 +26,9 @@ void CWidget::setBackgroundImage(const QPixmap& picture)
         update();
 }
 
-void CWidget::setBorderColor(const QColor& color)
+void CWidget::setBorderColor(const CThemeColor& color)
 {
-    const QColor before = m_frame.borderColor();
-    m_frame.setBorderColor(color);
-    if (before != m_frame.borderColor())
-        update();
-}
-
-void CWidget::setBorderColor(int colorCode)
-{
-    const QColor before = m_frame.borderColor();
-    m_frame.setBorderColor(colorCode);
-    if (before != m_frame.borderColor())
+    if (m_frame.setBorderColor(color))
         update();
 }
 

@@ -29,16 +29,9 @@ public:
 
     explicit CWidget(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
 
-    void setBackgroundColor(const QColor& color);
-    void setBackgroundColor(int colorCode);
-    void setBackgroundColor(Qt::GlobalColor color)
-    {
-        setBackgroundColor(QColor(color));
-    } // it is no colour code
+    void setBackgroundColor(const CThemeColor& color);
     void setBackgroundImage(const QPixmap& picture);
-    void setBorderColor(const QColor& color);
-    void setBorderColor(int colorCode);
-    void setBorderColor(Qt::GlobalColor color) { setBorderColor(QColor(color)); }
+    void setBorderColor(const CThemeColor& color);
     /** Border width in pixels: all four sides, or left, top, right, bottom. A layout's items keep off the
      * border. */
     void setBorderWidth(int width);

@@ -16,7 +16,6 @@
 
 namespace {
 
-constexpr double ReadableContrast = 4.5;
 const QColor MarkerLine(12, 16, 34);
 constexpr qint64 LargestPicture = 1024 * 1024; // bytes
 
@@ -88,7 +87,7 @@ qreal widestPiece(const QString& text, const QFontMetricsF& metrics, bool wrap)
 void CStylePainter::paintButton(QPainter& painter, const QRect& rect, int status)
 {
     const CWidgetStyle::ButtonLook look = CWidgetStyle::getButtonLook(status);
-    const int radius = CWidgetStyle::getMetric(QStringLiteral("buttonRadius"), 8);
+    const int radius = CWidgetStyle::getMetric(CWidgetStyle::MetricButtonRadius);
     if (!look.picture.isEmpty()) {
         static QSet<QString> unreadable; // each is tried and told once
         QPixmap picture;
@@ -127,7 +126,7 @@ void CStylePainter::paintPlate(
 
 void CStylePainter::paintFocusMarker(QPainter& painter, const QRect& rect, int radius)
 {
-    const int width = CWidgetStyle::getMetric(QStringLiteral("focusWidth"), 3);
+    const int width = CWidgetStyle::getMetric(CWidgetStyle::MetricFocusWidth);
     CPainterState state(painter);
     painter.setRenderHint(QPainter::Antialiasing);
     strokeRounded(painter, rect, 0, 1, radius, MarkerLine);
@@ -218,13 +217,4 @@ double CStylePainter::contrast(const QColor& one, const QColor& other)
 {
     const double first = luminance(one), second = luminance(other);
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
-}
-
-QColor CStylePainter::readable(const QColor& wanted, const QColor& ground)
-{
-    if (contrast(wanted, ground) >= ReadableContrast)
-        return wanted;
-    const QColor light = CWidgetStyle::getColor(CWidgetStyle::ColorTextLight);
-    const QColor dark = CWidgetStyle::getColor(CWidgetStyle::ColorTextDark);
-    return contrast(light, ground) >= contrast(dark, ground) ? light : dark;
 }

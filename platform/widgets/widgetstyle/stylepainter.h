@@ -47,7 +47,4 @@ public:
 
     /** Contrast ratio of two opaque colours, 1 to 21. */
     static double contrast(const QColor& one, const QColor& other);
-    /** `wanted` if it can be read on `ground` (4.5 : 1), else the theme's light or dark text, whichever is
-     * clearer. */
-    static QColor readable(const QColor& wanted, const QColor& ground);
 };

@@ -14,6 +14,21 @@ constexpr int LargestSize = 4096;
 constexpr const char* ColorNames[CTheme::ColorSlots]
     = {"screen", "toolBox", "textLight", "accent", "toolPage", "toolPageOpen", "pressed", "alert", "button",
         "textDark", "dialog", "frame", "disabled", "textDisabled", "plate", "textMuted", "field", "title"};
+// Names of the metrics, in their order.
+constexpr const char* MetricNames[CTheme::MetricSlots] = {"touchTarget", "buttonRadius", "focusWidth",
+    "toolPageHeight", "toolItemHeight", "entryWidth", "entryHeight", "entryGapX", "entryGapY", "entryTop",
+    "entryRadius", "messageTitleHeight", "messageMinWidth", "messageMaxWidth", "messageButtonWidth",
+    "messageButtonHeight", "dialogRadius", "scrimOpacity", "fieldHeight"};
+
+/** The place of a name in a table of names, -1 when it is not there. */
+template <size_t Size> int placeOf(const QStringRef& name, const char* const (&names)[Size])
+{
+    for (size_t i = 0; i < Size; ++i) {
+        if (name == QLatin1String(names[i]))
+            return int(i);
+    }
+    return -1;
+}
 
 /** Reads the entries of one file; an entry is taken over whole or not at all. */
 class CThemeReader
@@ -74,14 +89,10 @@ private:
 
     bool colorCode(const char* attribute, int& code) const
     {
-        const auto name = m_attributes.value(QLatin1String(attribute));
-        for (int i = 0; i < CTheme::ColorSlots; ++i) {
-            if (name == QLatin1String(ColorNames[i])) {
-                code = i;
-                return true;
-            }
-        }
-        return false;
+        const int place = placeOf(m_attributes.value(QLatin1String(attribute)), ColorNames);
+        if (place >= 0)
+            code = place;
+        return place >= 0;
     }
 
     bool readRegion()
@@ -135,12 +146,8 @@ private:
 
     bool readMetric()
     {
-        int value = 0;
-        const QString name = m_attributes.value(QLatin1String("name")).toString();
-        if (name.isEmpty() || !number("value", 0, LargestSize, value))
-            return false;
-        m_theme.metrics.insert(name, value);
-        return true;
+        const int metric = placeOf(m_attributes.value(QLatin1String("name")), MetricNames);
+        return metric >= 0 && number("value", 0, LargestSize, m_theme.metrics[size_t(metric)]);
     }
 
     QXmlStreamReader& m_xml;

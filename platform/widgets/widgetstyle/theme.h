@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QColor>
-#include <QHash>
 #include <QRect>
 #include <QString>
 
@@ -17,6 +16,7 @@ struct CTheme
     static constexpr int FontSlots = 11;
     static constexpr int ButtonSlots = 4;
     static constexpr int EntrySlots = 11;
+    static constexpr int MetricSlots = 19;
 
     struct FontLook
     {
@@ -39,7 +39,7 @@ struct CTheme
     std::array<FontLook, FontSlots> fonts;
     std::array<ButtonLook, ButtonSlots> buttons;
     std::array<QColor, EntrySlots> entries;
-    QHash<QString, int> metrics;
+    std::array<int, MetricSlots> metrics{};
 };
 
 /**

@@ -10,6 +10,7 @@
 #include <QPainter>
 
 static_assert(CWidgetStyle::ColorCount == CTheme::ColorSlots, "one slot a colour code");
+static_assert(CWidgetStyle::MetricCount == CTheme::MetricSlots, "one slot a metric");
 static_assert(CWidgetStyle::FontCount == CTheme::FontSlots, "one slot a font kind");
 
 namespace {
@@ -120,7 +121,7 @@ QColor CWidgetStyle::getEntryColor(int type)
     return theme().entries[size_t(type >= 0 && type < CTheme::EntrySlots ? type : 1)];
 }
 
-int CWidgetStyle::getMetric(const QString& name, int fallback)
+int CWidgetStyle::getMetric(Metric metric)
 {
-    return theme().metrics.value(name, fallback);
+    return theme().metrics[size_t(metric)];
 }

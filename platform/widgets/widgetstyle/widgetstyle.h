@@ -65,6 +65,30 @@ public:
         FontCount
     };
 
+    /** Single numbers of the theme, in pixels unless told otherwise. */
+    enum Metric {
+        MetricTouchTarget = 0, ///< least side of what is touched
+        MetricButtonRadius,
+        MetricFocusWidth,
+        MetricToolPageHeight,
+        MetricToolItemHeight,
+        MetricEntryWidth,
+        MetricEntryHeight,
+        MetricEntryGapX,
+        MetricEntryGapY,
+        MetricEntryTop,
+        MetricEntryRadius,
+        MetricMessageTitleHeight,
+        MetricMessageMinWidth,
+        MetricMessageMaxWidth,
+        MetricMessageButtonWidth,
+        MetricMessageButtonHeight,
+        MetricDialogRadius,
+        MetricScrimOpacity, ///< of the veil behind a dialog, of 255
+        MetricFieldHeight,
+        MetricCount
+    };
+
     enum ButtonStatus { ButtonReleased = 0, ButtonPressed = 1, ButtonFocused = 2, ButtonDisabled = 3 };
 
     /**
@@ -102,7 +126,5 @@ public:
     /** Ground of an entry tile of a colour type (CEntryItem::ColorType); type 1's colour outside the table.
      */
     static QColor getEntryColor(int type);
-    /** Milliseconds, pixels and other single numbers of the theme by name; `fallback` if the theme has none.
-     */
-    static int getMetric(const QString& name, int fallback);
+    static int getMetric(Metric metric);
 };
