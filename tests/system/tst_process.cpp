@@ -18,6 +18,7 @@
 namespace {
 
 const QString RESIDENT = QStringLiteral("libIPtool.so"); // loaded at the start, asked to end
+const QString HANGS = QStringLiteral("/tmp/fixture-hangs"); // from here on it does
 const QString LOCK_FILE = QStringLiteral("/run/mainframe.lock");
 const QString LOCK_MARK = QStringLiteral("/tmp/screen-locked.mark");
 constexpr int END_LIMIT = 30000; // ms; far more than the 5 s after which the shell ends by force
@@ -106,6 +107,7 @@ void TestProcess::init()
     installFixture("libfixture_recorder.so", RESIDENT);
     clearPluginCalls();
     remove(QStringLiteral("/tmp/fixture-trouble"));
+    remove(HANGS);
     remove(QStringLiteral("/home/root/.zentra"));
 }
 
@@ -219,6 +221,8 @@ void TestProcess::hangingPlugin()
     writeFile(QStringLiteral("/tmp/fixture-trouble"), call + " hang");
     CShellProcess shell;
     QVERIFY2(shell.waitForHome(), qPrintable(shell.log()));
+    if (call == "bkgRun") // a signal that comes before ends the shell without it
+        QTRY_VERIFY(QFile::exists(HANGS));
     shell.sendSignal(SIGTERM);
     QVERIFY(shell.waitForLog(QStringLiteral("Terminate is comming!")));
     shell.sendSignal(SIGTERM); // does not begin the time again, nor end it
