@@ -3,6 +3,7 @@
 #include "advancemenu.h"
 #include "defaultsettings.h"
 #include "fakedesktop.h"
+#include "globalsettings.h"
 #include "homepage.h"
 #include "pluginman.h"
 #include "pointergrab.h"
@@ -155,6 +156,13 @@ template <typename Page> Page* CMainWindow::addInnerPage(UtilityID id, Page* pag
     return page;
 }
 
+CWidget* CMainWindow::innerPage(UtilityID id)
+{
+    if (const auto make = m_pageMakers.take(id))
+        addInnerPage(id, make());
+    return m_innerPages.value(id);
+}
+
 void CMainWindow::createPages()
 {
     m_pFakeDesk = new CFakeDesktop(this);
@@ -167,6 +175,13 @@ void CMainWindow::createPages()
     m_pAdvMenu = addInnerPage(UTILITY_ID_ADVTOOL, new CAdvanceMenu(this));
     m_pSettingMenu = addInnerPage(UTILITY_ID_SETTINGS, new CSystemSettingsMenu(this));
     m_pSettingMoreMenu = addInnerPage(UTILITY_ID_SETTING_MORE, new CSettingMoreMenu(this));
+
+    // Those that are made when they are first opened: most starts get by without them.
+    m_pageMakers.insert(UTILITY_ID_GLOBAL, [this] {
+        auto* page = new CGlobalSettings(this);
+        connect(page, &CGlobalSettings::currentLanguageChanged, this, &CMainWindow::changeLanguage);
+        return page;
+    });
 
     m_pSwitchAppWnd = new CSwitchAppWindow(this);
     m_pSwitchAppWnd->hide();

@@ -15,6 +15,7 @@
 #include <QHash>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -172,6 +173,8 @@ private:
     void createDeviceMonitor();
     void createTimers();
     template <typename Page> Page* addInnerPage(UtilityID id, Page* page);
+    /** The built-in page of a utility, made now if need be; null if there is none. */
+    CWidget* innerPage(UtilityID id);
 
     // Menu path and top bar
     void updateNavigateInfo(UtilityID id);
@@ -315,6 +318,7 @@ private:
     CTopBar* m_pTopBar = nullptr;
     CToolBox* m_pToolBox = nullptr;
     QHash<int, CWidget*> m_innerPages; // built-in pages by UtilityID, the home page included
+    QHash<int, std::function<CWidget*()>> m_pageMakers; // of the built-in pages that nobody opened yet
     CWidget* m_pInnerUtilpage = nullptr; // the one now shown, null while a plug-in is
     CHomePage* m_pHomePage = nullptr;
     CAdvanceMenu* m_pAdvMenu = nullptr;

@@ -3,6 +3,7 @@
 #include "mainwindow.h"
 
 #include "devicemonitor.h"
+#include "globalsettings.h"
 #include "pluginman.h"
 #include "utilinterface.h"
 
@@ -101,6 +102,7 @@ void CMainWindow::postLaunch()
     waitForFirstPaint();
     if (m_isTerminating)
         return;
+    CGlobalSettings::applyAtStart(); // whether its page is opened or not
     m_pDevMonitor->start(QThread::InheritPriority);
     m_pDevMonitor->wakeupScreen(m_powerStat.bIsBat, 1);
     autoLoadPlugins();

@@ -25,7 +25,7 @@ constexpr int BROWSER_INPUT_LOCK = 2000; // ms; the browser alone gets it
 
 bool CMainWindow::isUtilAvailable(UtilityID id) const
 {
-    return m_pPluginMan->isPlugin(id) || m_innerPages.contains(id);
+    return m_pPluginMan->isPlugin(id) || m_innerPages.contains(id) || m_pageMakers.contains(id);
 }
 
 bool CMainWindow::confirmCalibration()
@@ -82,7 +82,7 @@ void CMainWindow::switchTo(UtilityID id)
         startPlugin(id);
     } else {
         leaveUtilPage(m_prevUtilID);
-        showInnerPage(m_innerPages.value(id));
+        showInnerPage(innerPage(id));
     }
     updateNavigateInfo(id);
     m_prevUtilID = id;
