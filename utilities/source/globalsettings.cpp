@@ -281,7 +281,7 @@ void CGlobalSettings::setSaveScreenState(bool save)
 {
     store()->setAttribute(CSystemSettings::LockScreenORSaveScreen, save, true);
     QFile mark(CUICommUtils::getSaveScreenMarkFileName());
-    // Made only where nothing is: a link that somebody put there is not followed.
+    // Made only where nothing is: a link that somebody puts there meanwhile is not followed.
     if (save ? mark.exists() && !mark.remove()
              : !mark.exists() && !mark.open(QIODevice::ReadWrite | QIODevice::NewOnly))
         qWarning().noquote() << "Can not change" << mark.fileName() << '-' << mark.errorString();

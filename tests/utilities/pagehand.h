@@ -1,0 +1,66 @@
+#pragma once
+
+#include "globalsettings.h"
+#include "widgets/parmcombobox/parmcombobox.h"
+#include "widgets/parmcombobox/parmlist.h"
+#include "widgets/parmlineedit/parmlineedit.h"
+#include "widgets/tabwidget/tabwidget.h"
+
+#include <QFile>
+#include <QHash>
+#include <QProcess>
+#include <QTest>
+
+// What the tests of the settings page share: its controls by their English captions, and the block of the
+// other processes as one of those sees it.
+
+/** The settings in the shared block, by the names of the platform's own tool. */
+inline QHash<QString, QString> blockContent()
+{
+    QProcess reader;
+    reader.start(QStringLiteral("globalsegment"), {QStringLiteral("show")});
+    reader.waitForFinished();
+    QHash<QString, QString> content;
+    for (const QString& line : QString::fromUtf8(reader.readAllStandardOutput()).split(QLatin1Char('\n')))
+        content.insert(line.section(QLatin1Char(' '), 0, 0), line.section(QLatin1Char(' '), 1));
+    return content;
+}
+
+inline void simctl(const QString& words)
+{
+    QCOMPARE(QProcess::execute(QStringLiteral("simctl"), words.split(QLatin1Char(' '))), 0);
+}
+
+/** The calls of the clock tools so far. */
+inline QStringList clockCalls()
+{
+    QFile file(QStringLiteral("/tmp/var/sim/clock-calls"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+/** A list or field of the page, on its tab, which comes to the front. */
+template <typename Field> Field* field(const CGlobalSettings& page, const char* caption)
+{
+    auto* tabs = page.findChild<CTabWidget*>();
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        for (auto* found : tabs->widget(tab)->findChildren<Field*>()) {
+            if (found->caption() == QLatin1String(caption)) {
+                tabs->setCurrentIndex(tab);
+                return found;
+            }
+        }
+    }
+    return nullptr;
+}
+
+/** The open list of a window. */
+inline CParmList* openList(const QWidget* window)
+{
+    for (auto* list : window->findChildren<CParmList*>()) {
+        if (list->isVisible())
+            return list;
+    }
+    return nullptr;
+}
