@@ -6,6 +6,7 @@
 #include "widgets/widgetstyle/stylepainter.h"
 
 #include <QDir>
+#include <QLineEdit>
 #include <QSignalSpy>
 
 #include "infopage.h"
@@ -264,9 +265,9 @@ void TestGlobalSettings::prefixIsCountedAsStored()
     QString count;
     CWithDialog pad([&](CDialog* dialog) {
         for (int i = 0; i < 40; ++i)
-            QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_Adiaeresis,
+            QTest::sendKeyEvent(QTest::Click, dialog->findChild<QLineEdit*>(), Qt::Key_Adiaeresis,
                 QStringLiteral("\u00e4"), Qt::NoModifier);
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("xy"));
+        QTest::keyClicks(dialog->findChild<QLineEdit*>(), QStringLiteral("xy"));
         count = dialog->findChild<CLabel*>(QStringLiteral("count"))->text();
         QTest::mouseClick(dialog->findChild<CPushButton*>(QStringLiteral("ok")), Qt::LeftButton);
     });
@@ -286,7 +287,7 @@ void TestGlobalSettings::numberPadNamesItsLimits()
         hint = dialog->findChild<CLabel*>(QStringLiteral("count"))->text();
         clear = dialog->findChild<CPushButton*>(QStringLiteral("clear"))->text();
         QTest::mouseClick(dialog->findChild<CPushButton*>(QStringLiteral("clear")), Qt::LeftButton);
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("0012"));
+        QTest::keyClicks(dialog->findChild<QLineEdit*>(), QStringLiteral("0012"));
         QTest::mouseClick(dialog->findChild<CPushButton*>(QStringLiteral("ok")), Qt::LeftButton);
     });
     field<CParmLineEdit>(*m_page, "Maximum Number of Screenshots")->click();
