@@ -94,6 +94,12 @@ void CXScreen::touch(const QPoint& at) const
     XSync(m_display, False);
 }
 
+void CXScreen::setKeyDown(unsigned long keysym, bool down) const
+{
+    XTestFakeKeyEvent(m_display, XKeysymToKeycode(m_display, keysym), down, CurrentTime);
+    XSync(m_display, False);
+}
+
 bool CXScreen::isTouchDelivered(const QPoint& at) const
 {
     XSetWindowAttributes attributes = {};

@@ -39,6 +39,9 @@ public:
     /** Touches a point of the screen, as the touch screen's driver does: pressed and released. */
     void touch(const QPoint& at) const;
 
+    /** A key of the keyboard goes down, and up. While it is down the X server repeats it. */
+    void setKeyDown(unsigned long keysym, bool down) const;
+
     /** Whether a touch there comes to a window of this connection, as it would to another program's; false
      * after 2 s. */
     bool isTouchDelivered(const QPoint& at) const;

@@ -11,6 +11,8 @@
 #include <QProcess>
 #include <QTest>
 
+#include "xscreen.h"
+
 // What the tests of the settings page share: its controls by their English captions, and the block of the
 // other processes as one of those sees it.
 
@@ -63,4 +65,21 @@ inline CParmList* openList(const QWidget* window)
             return list;
     }
     return nullptr;
+}
+
+/** Touches the middle of a control, as the touch screen does. */
+inline void touch(const CXScreen& screen, const QWidget* control)
+{
+    screen.touch(control->mapToGlobal(control->rect().center()));
+}
+
+/** Chooses a row of a list by touches; the list stands on a page of `window`. */
+inline void touchRow(const CXScreen& screen, const QWidget* window, const CParmComboBox* box, int row)
+{
+    touch(screen, box);
+    QTRY_VERIFY(openList(window));
+    const CParmList* list = openList(window);
+    screen.touch(list->mapToGlobal(list->rowRect(row).center()));
+    QTRY_VERIFY(!openList(window));
+    QTRY_COMPARE(box->currentIndex(), row);
 }
