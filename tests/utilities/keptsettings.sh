@@ -5,6 +5,6 @@
 set -u
 state=$(mktemp -d /tmp/keptsettings.XXXXXX)
 trap 'rm -rf "$state"' EXIT
-for step in prefixComesBack changeEverySetting everySettingIsThere fileIsWholeOrNotAtAll; do
+for step in freshUnit prefixComesBack changeEverySetting everySettingIsThere fileIsWholeOrNotAtAll; do
     "$1/simulator/instrument" --build "$2" --profile full --state "$state" -- "$2/tests/tst_keptsettings" "$step" || exit 1
 done

@@ -1,3 +1,4 @@
+#include "defaultsettings.h"
 #include "mainwindow.h"
 #include "pagehand.h"
 #include "systemsettings.h"
@@ -101,6 +102,7 @@ private slots:
         QFile::setPermissions(settings, QFile::ReadOwner | QFile::WriteOwner);
     }
 
+    void freshUnit();
     void prefixComesBack_data();
     void prefixComesBack();
     void changeEverySetting();
@@ -145,6 +147,15 @@ private:
     CXScreen m_screen;
     std::unique_ptr<CMainWindow> m_window;
 };
+
+/** The platform fills the block with what the shell takes for its defaults. */
+void TestKeptSettings::freshUnit()
+{
+    const QHash<QString, QString> fresh = blockContent();
+    for (const DefaultSetting& setting : defaultSettings())
+        store()->setAttribute(setting.attribute, setting.value, true);
+    QCOMPARE(blockContent(), fresh);
+}
 
 void TestKeptSettings::prefixComesBack_data()
 {

@@ -2,6 +2,7 @@
 
 #include "widgets/checkbox/checkbox.h"
 #include "widgets/keypad/keypaddialog.h"
+#include "widgets/label/label.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/widget/widget.h"
 
@@ -145,6 +146,21 @@ private slots:
         QCOMPARE(pad.markedButton()->objectName(), QStringLiteral("page"));
         press(Qt::Key_Up);
         QCOMPARE(pad.markedButton()->objectName(), QStringLiteral("key;"));
+    }
+
+    void bytesAreCounted()
+    {
+        const QString umlauts(6, QChar(0xe4));
+        CKeyPadDialog pad(QStringLiteral("Name"), umlauts, Pad::KeyPadText);
+        pad.setMaxBytes(9); // cuts between characters
+        QCOMPARE(pad.text(), umlauts.left(4));
+        show(pad);
+        touch(pad, QStringLiteral("keya"));
+        touch(pad, QStringLiteral("keyb"));
+        QCOMPARE(pad.text(), umlauts.left(4) + QLatin1Char('a'));
+        QCOMPARE(pad.findChild<CLabel*>(QStringLiteral("count"))->text(), QStringLiteral("9 / 9"));
+        touch(pad, QStringLiteral("clear"));
+        QCOMPARE(pad.text(), QString());
     }
 
     void onlyOkChangesTheText()
