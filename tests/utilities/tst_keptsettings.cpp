@@ -14,6 +14,8 @@
 #include "commutils.h"
 #include "withdialog.h"
 
+#include <sys/stat.h>
+
 using S = CSystemSettings;
 
 namespace {
@@ -283,6 +285,9 @@ void TestKeptSettings::fileIsWholeOrNotAtAll()
     // Nothing can be made beside the file: what it holds stays.
     const QHash<QString, QString> before = keptWords();
     QVERIFY(!before.isEmpty());
+    struct stat file = {};
+    QCOMPARE(::stat(QFile::encodeName(KEPT_FILE).constData(), &file), 0);
+    const ino_t first = file.st_ino;
     QVERIFY(QFile::rename(KEPT_DIR, KEPT_DIR + QStringLiteral(".away")));
     QVERIFY(QFile::link(QStringLiteral("/proc"), KEPT_DIR));
     store()->setAttribute(S::SaveScreenMaxNum, 77, true);
@@ -297,6 +302,8 @@ void TestKeptSettings::fileIsWholeOrNotAtAll()
     QHash<QString, QString> after = keptWords();
     after.insert(QStringLiteral("save_screen_maxnum"), before.value(QStringLiteral("save_screen_maxnum")));
     QCOMPARE(after, before);
+    QCOMPARE(::stat(QFile::encodeName(KEPT_FILE).constData(), &file), 0);
+    QVERIFY(file.st_ino != first); // another file in its place: nobody sees half of one
     QCOMPARE(QDir(KEPT_DIR).entryList(QDir::Files), QStringList(QStringLiteral("Last configuration")));
 }
 
