@@ -73,11 +73,6 @@ QString findProgram(const QString& name)
 QList<QByteArray> keptTexts;
 QVector<char*> kept; // their addresses and a null; empty: nothing is kept
 
-char* const* commandEnvironment()
-{
-    return kept.isEmpty() ? environ : kept.constData();
-}
-
 void sendReport(int fd, Event event, int value)
 {
     const Report report = {event, value};
@@ -93,17 +88,24 @@ bool receiveReport(int fd, Report& report)
     return count == static_cast<ssize_t>(sizeof report);
 }
 
-void closeOthers(const Launch& launch)
+/** @param spared the one descriptor beside the standard ones that stays, -1 for none */
+void closeOthers(int spared, int limit)
 {
-    const auto reports = static_cast<unsigned>(launch.reports);
-    if (reports > 3)
-        ::close_range(3, reports - 1, 0);
-    if (::close_range(reports + 1, ~0U, 0) == 0)
+    if (spared > 3)
+        ::close_range(3, unsigned(spared) - 1, 0);
+    if (::close_range(unsigned(spared > 2 ? spared + 1 : 3), ~0U, 0) == 0)
         return;
-    for (int fd = 3; fd < launch.descriptorLimit; ++fd) { // a kernel without close_range
-        if (fd != launch.reports)
+    for (int fd = 3; fd < limit; ++fd) { // a kernel without close_range
+        if (fd != spared)
             ::close(fd);
     }
+}
+
+int descriptorLimit()
+{
+    rlimit limit = {};
+    ::getrlimit(RLIMIT_NOFILE, &limit);
+    return static_cast<int>(qMin<rlim_t>(limit.rlim_cur, 65536));
 }
 
 void restoreSignals()
@@ -124,12 +126,38 @@ void restoreSignals()
     sendReport(launch.reports, Event::Running, ::getpid());
     if (::dup2(launch.input, STDIN_FILENO) >= 0 && ::dup2(launch.output, STDOUT_FILENO) >= 0
         && ::dup2(launch.output, STDERR_FILENO) >= 0) {
-        closeOthers(launch);
+        closeOthers(launch.reports, launch.descriptorLimit);
         restoreSignals();
         ::execve(launch.program, launch.arguments, launch.environment);
     }
     sendReport(launch.reports, Event::Failed, errno);
     ::_exit(127);
+}
+
+/**
+ * Forks a child that does `work` and ends; the parent's result is fork()'s. No handler of this process may
+ * run in the child and its children: they share its signal pipe. So they start with every signal blocked.
+ */
+template <typename Work> pid_t forkQuietly(const Work& work)
+{
+    sigset_t all, before;
+    ::sigfillset(&all);
+    ::pthread_sigmask(SIG_SETMASK, &all, &before);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        work();
+        ::_exit(0);
+    }
+    const int forkError = errno;
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    errno = forkError;
+    return child;
+}
+
+void waitFor(pid_t child)
+{
+    // ECHILD is fine: the SIGCHLD handler, in whatever thread it runs, may have been faster.
+    while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) { }
 }
 
 } // namespace
@@ -159,32 +187,19 @@ bool CDetachedCommand::start(const QStringList& argv, Output output)
     CFileDescriptor null(::open("/dev/null", O_RDWR | O_CLOEXEC));
     if (!moveUp(null))
         return fail(name, errno);
-    rlimit limit = {};
-    ::getrlimit(RLIMIT_NOFILE, &limit);
-    const Launch launch = {program.constData(), arguments.constData(), commandEnvironment(), null.get(),
-        output == Output::Pipe ? outputWrite.get() : null.get(), reportWrite.get(),
-        static_cast<int>(qMin<rlim_t>(limit.rlim_cur, 65536))};
+    const Launch launch = {program.constData(), arguments.constData(), environment(), null.get(),
+        output == Output::Pipe ? outputWrite.get() : null.get(), reportWrite.get(), descriptorLimit()};
 
-    // No handler of this process may run in the processes between: they share its signal pipe.
-    sigset_t all, before;
-    ::sigfillset(&all);
-    ::pthread_sigmask(SIG_SETMASK, &all, &before);
-    const pid_t child = ::fork();
-    if (child == 0) {
+    const pid_t child = forkQuietly([&launch] {
         const pid_t command = ::fork();
         if (command == 0)
             runCommand(launch);
         if (command < 0)
             sendReport(launch.reports, Event::Failed, errno);
-        ::_exit(0);
-    }
-    const int forkError = errno;
-    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    });
     if (child < 0)
-        return fail(name, forkError);
-
-    // ECHILD is fine: the SIGCHLD handler, in whatever thread it runs, may have been faster.
-    while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) { }
+        return fail(name, errno);
+    waitFor(child);
     reportWrite.reset();
     outputWrite.reset();
 
@@ -216,6 +231,33 @@ void CDetachedCommand::keepEnvironment()
     for (QByteArray& text : keptTexts)
         kept << text.data();
     kept << nullptr;
+}
+
+char* const* CDetachedCommand::environment()
+{
+    return kept.isEmpty() ? environ : kept.constData();
+}
+
+bool CDetachedCommand::runApart(void (*work)(const void* data), const void* data)
+{
+    const CFileDescriptor null(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+    const int input = null.get();
+    const int limit = descriptorLimit();
+    const pid_t child = forkQuietly([=] {
+        if (::_Fork() != 0) // fork() is not async-signal-safe
+            return; // a failure costs the work, and nobody is there to tell
+        ::setpgid(0, 0);
+        ::dup2(input, STDIN_FILENO);
+        closeOthers(-1, limit);
+        restoreSignals();
+        work(data);
+    });
+    if (child < 0) {
+        qWarning("Can not make a process - %s", std::strerror(errno));
+        return false;
+    }
+    waitFor(child);
+    return true;
 }
 
 bool CDetachedCommand::terminate(int signalNumber)

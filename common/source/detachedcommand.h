@@ -49,6 +49,20 @@ public:
      */
     static void keepEnvironment();
 
+    /** The environment that commands get, for an execve() of one's own. */
+    static char* const* environment();
+
+    /**
+     * Runs `work(data)` in a process of its own, for a caller that starts several commands one after the
+     * other there. As a command it belongs to the init process and has the default signal mask and
+     * dispositions, a process group of its own and no descriptor but the standard ones, but standard output
+     * and error stay this process's. It ends with status 0 when `work` returns.
+     *
+     * `work` may only make async-signal-safe calls, and read what was there before.
+     * @return false, with a log line, when there can be no process
+     */
+    static bool runApart(void (*work)(const void* data), const void* data);
+
     /** Process id and process group of the command; -1 before a successful start. */
     pid_t pid() const { return m_pid; }
 

@@ -119,7 +119,7 @@ void CInfoPages::execPower()
         return;
     m_pPowerPage->updatePowerStatus(m_fields.power); // the page is as high as what it has to say
     m_host.moveToWorkingAreaCenter(m_pPowerPage);
-    m_pPowerPage->exec(m_fields.power);
+    run(m_pPowerPage, [this] { m_pPowerPage->exec(m_fields.power); });
 }
 
 void CInfoPages::execStorage()
@@ -134,7 +134,20 @@ void CInfoPages::execStorage()
     if (m_pStoragePage->isVisible())
         return;
     m_host.moveToWorkingAreaCenter(m_pStoragePage);
-    m_pStoragePage->exec(m_pMeter->measureWithin(m_fields.storage, STORAGE_WAIT));
+    run(m_pStoragePage,
+        [this] { m_pStoragePage->exec(m_pMeter->measureWithin(m_fields.storage, STORAGE_WAIT)); });
+}
+
+void CInfoPages::run(CDialog* page, const std::function<void()>& exec)
+{
+    // One that was closed below another dialog is still in its loop, which ends after the other's.
+    if (m_running.contains(page)) {
+        page->show();
+        return;
+    }
+    m_running.insert(page);
+    exec();
+    m_running.remove(page);
 }
 
 void CInfoPages::showMeasured(const StorageStatus& status)

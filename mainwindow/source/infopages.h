@@ -4,7 +4,11 @@
 #include "statuscodes.h"
 
 #include <QObject>
+#include <QSet>
 
+#include <functional>
+
+class CDialog;
 class CPowerMonitor;
 class CStorageMeter;
 class CStorageMonitor;
@@ -66,6 +70,7 @@ private:
     bool askForLater(InquireSysStatCode code);
     template <typename Page> Page* make(int windowID);
     void pageClosed(int windowID);
+    void run(CDialog* page, const std::function<void()>& exec);
     void execPower();
     void execStorage();
     void showMeasured(const StorageStatus& status);
@@ -74,6 +79,7 @@ private:
     CTransitions& m_transitions;
     InfoFields m_fields;
     bool m_isServed = false; // the page that was asked for is open, over the fake desktop
+    QSet<CDialog*> m_running; // in their event loops
     CPowerMonitor* m_pPowerPage = nullptr;
     CStorageMonitor* m_pStoragePage = nullptr;
     CStorageMeter* m_pMeter = nullptr;

@@ -4,6 +4,7 @@
 #include "backlight.h"
 #include "defaultsettings.h"
 #include "fakedesktop.h"
+#include "globalsettings.h"
 #include "homepage.h"
 #include "infopages.h"
 #include "pluginman.h"
@@ -194,6 +195,14 @@ void CMainWindow::createPages()
     m_pAdvMenu = addInnerPage(UTILITY_ID_ADVTOOL, new CAdvanceMenu(this));
     m_pSettingMenu = addInnerPage(UTILITY_ID_SETTINGS, new CSystemSettingsMenu(this));
     m_pSettingMoreMenu = addInnerPage(UTILITY_ID_SETTING_MORE, new CSettingMoreMenu(this));
+
+    // Those that are made when they are first opened: most starts get by without them.
+    m_innerPages.addLater(UTILITY_ID_GLOBAL, [this] {
+        auto* page = new CGlobalSettings(this);
+        connect(page, &CGlobalSettings::currentLanguageChanged, this, &CMainWindow::changeLanguage);
+        return addInnerPage(UTILITY_ID_GLOBAL, page);
+    });
+    m_innerPages.addLaunchWork(&CGlobalSettings::applyAtStart);
 
     m_pSwitchAppWnd = new CSwitchAppWindow(this);
     m_pSwitchAppWnd->hide();

@@ -119,15 +119,6 @@ Meter</translation>
         <translation>%1 min</translation>
     </message>
     <message>
-        <source>Switch off the backlight</source>
-        <translation>Switch off the backlight</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <comment>that time the backlight goes off</comment>
-        <translation>After</translation>
-    </message>
-    <message>
         <source>Brightness</source>
         <translation>Brightness</translation>
     </message>
@@ -144,12 +135,196 @@ Meter</translation>
         <source>On external power</source>
         <translation>On external power</translation>
     </message>
+    <message>
+        <source>Switch off the backlight after</source>
+        <comment>a time that stands beside it</comment>
+        <translation>Switch off the backlight after</translation>
+    </message>
 </context>
 <context>
     <name>CBacklightPlugin</name>
     <message>
         <source>Backlight</source>
         <translation>Backlight</translation>
+    </message>
+</context>
+<context>
+    <name>CGlobalSettings</name>
+    <message>
+        <source>General Setting</source>
+        <translation>General Setting</translation>
+    </message>
+    <message>
+        <source>Storage Setting</source>
+        <translation>Storage Setting</translation>
+    </message>
+    <message>
+        <source>Save Setting</source>
+        <translation>Save Setting</translation>
+    </message>
+    <message>
+        <source>File Name Prefix</source>
+        <translation>File Name Prefix</translation>
+    </message>
+    <message>
+        <source>Maximum Number of Screenshots</source>
+        <translation>Maximum Number of Screenshots</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>Chinese</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>German</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>French</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japanese</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation>Hungarian</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Russian</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unit</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>Metric</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>Imperial</translation>
+    </message>
+    <message>
+        <source>Audible Alarm</source>
+        <translation>Audible Alarm</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Show Password</source>
+        <translation>Show Password</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>User Interface</source>
+        <translation>User Interface</translation>
+    </message>
+    <message>
+        <source>International</source>
+        <translation>International</translation>
+    </message>
+    <message>
+        <source>USA</source>
+        <translation>USA</translation>
+    </message>
+    <message>
+        <source>Clock Source</source>
+        <translation>Clock Source</translation>
+    </message>
+    <message>
+        <source>Atomic 1PPS</source>
+        <translation>Atomic 1PPS</translation>
+    </message>
+    <message>
+        <source>GPS 1PPS</source>
+        <translation>GPS 1PPS</translation>
+    </message>
+    <message>
+        <source>Atomic Clock 10M Hz</source>
+        <translation>Atomic Clock 10M Hz</translation>
+    </message>
+    <message>
+        <source>Profile Deleting</source>
+        <translation>Profile Deleting</translation>
+    </message>
+    <message>
+        <source>Auto Delete</source>
+        <translation>Auto Delete</translation>
+    </message>
+    <message>
+        <source>Prompt User</source>
+        <translation>Prompt User</translation>
+    </message>
+    <message>
+        <source>Profile Saving</source>
+        <translation>Profile Saving</translation>
+    </message>
+    <message>
+        <source>Auto Overwrite</source>
+        <translation>Auto Overwrite</translation>
+    </message>
+    <message>
+        <source>Result Saving</source>
+        <translation>Result Saving</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Advance Saving</source>
+        <translation>Advance Saving</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Lock/Save Screen</source>
+        <translation>Lock/Save Screen</translation>
+    </message>
+    <message>
+        <source>Lock Screen</source>
+        <translation>Lock Screen</translation>
+    </message>
+    <message>
+        <source>Save Screen</source>
+        <translation>Save Screen</translation>
+    </message>
+    <message>
+        <source>Screenshot Compression Level</source>
+        <translation>Screenshot Compression Level</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>High</translation>
+    </message>
+    <message>
+        <source>Mid</source>
+        <translation>Mid</translation>
+    </message>
+    <message>
+        <source>No Compression</source>
+        <translation>No Compression</translation>
     </message>
 </context>
 <context>
@@ -227,6 +402,10 @@ Meter</translation>
     <message>
         <source>Space</source>
         <translation>Space</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
     </message>
 </context>
 <context>
@@ -442,6 +621,11 @@ or exceed maximum number allowed!</translation>
     <message>
         <source>Enter a whole number from %1 to %2.</source>
         <translation>Enter a whole number from %1 to %2.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>limits of a number</comment>
+        <translation>%1 to %2</translation>
     </message>
 </context>
 <context>

@@ -119,15 +119,6 @@ puissance optique</translation>
         <translation>%1 min</translation>
     </message>
     <message>
-        <source>Switch off the backlight</source>
-        <translation>Éteindre l’écran</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <comment>that time the backlight goes off</comment>
-        <translation>Après</translation>
-    </message>
-    <message>
         <source>Brightness</source>
         <translation>Luminosité</translation>
     </message>
@@ -144,12 +135,196 @@ puissance optique</translation>
         <source>On external power</source>
         <translation>Sur secteur</translation>
     </message>
+    <message>
+        <source>Switch off the backlight after</source>
+        <comment>a time that stands beside it</comment>
+        <translation>Éteindre le rétroéclairage après</translation>
+    </message>
 </context>
 <context>
     <name>CBacklightPlugin</name>
     <message>
         <source>Backlight</source>
         <translation>Éclairage</translation>
+    </message>
+</context>
+<context>
+    <name>CGlobalSettings</name>
+    <message>
+        <source>General Setting</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Storage Setting</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Save Setting</source>
+        <translation>Captures d’écran</translation>
+    </message>
+    <message>
+        <source>File Name Prefix</source>
+        <translation>Préfixe des noms de fichier</translation>
+    </message>
+    <message>
+        <source>Maximum Number of Screenshots</source>
+        <translation>Nombre maximal de captures d’écran</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>中文</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation>Magyar</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unités</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>Métrique</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>Impérial</translation>
+    </message>
+    <message>
+        <source>Audible Alarm</source>
+        <translation>Alarme sonore</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>Show Password</source>
+        <translation>Afficher les mots de passe</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>User Interface</source>
+        <translation>Interface utilisateur</translation>
+    </message>
+    <message>
+        <source>International</source>
+        <translation>Internationale</translation>
+    </message>
+    <message>
+        <source>USA</source>
+        <translation>États-Unis</translation>
+    </message>
+    <message>
+        <source>Clock Source</source>
+        <translation>Source d’horloge</translation>
+    </message>
+    <message>
+        <source>Atomic 1PPS</source>
+        <translation>Atomique 1 PPS</translation>
+    </message>
+    <message>
+        <source>GPS 1PPS</source>
+        <translation>GPS 1 PPS</translation>
+    </message>
+    <message>
+        <source>Atomic Clock 10M Hz</source>
+        <translation>Horloge atomique 10 MHz</translation>
+    </message>
+    <message>
+        <source>Profile Deleting</source>
+        <translation>Suppression des profils</translation>
+    </message>
+    <message>
+        <source>Auto Delete</source>
+        <translation>Suppression auto</translation>
+    </message>
+    <message>
+        <source>Prompt User</source>
+        <translation>Demander</translation>
+    </message>
+    <message>
+        <source>Profile Saving</source>
+        <translation>Enregistrement des profils</translation>
+    </message>
+    <message>
+        <source>Auto Overwrite</source>
+        <translation>Écrasement auto</translation>
+    </message>
+    <message>
+        <source>Result Saving</source>
+        <translation>Enregistrement des résultats</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Advance Saving</source>
+        <translation>Enregistrement avancé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Lock/Save Screen</source>
+        <translation>Verrouiller/capturer l’écran</translation>
+    </message>
+    <message>
+        <source>Lock Screen</source>
+        <translation>Verrouiller l’écran</translation>
+    </message>
+    <message>
+        <source>Save Screen</source>
+        <translation>Capturer l’écran</translation>
+    </message>
+    <message>
+        <source>Screenshot Compression Level</source>
+        <translation>Compression des captures d’écran</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Élevée</translation>
+    </message>
+    <message>
+        <source>Mid</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>No Compression</source>
+        <translation>Aucune</translation>
     </message>
 </context>
 <context>
@@ -227,6 +402,10 @@ puissance optique</translation>
     <message>
         <source>Space</source>
         <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
     </message>
 </context>
 <context>
@@ -442,6 +621,11 @@ enregistrées est atteint ou dépassé !</translation>
     <message>
         <source>Enter a whole number from %1 to %2.</source>
         <translation>Saisissez un nombre entier de %1 à %2.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>limits of a number</comment>
+        <translation>%1 à %2</translation>
     </message>
 </context>
 <context>

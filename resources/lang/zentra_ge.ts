@@ -119,15 +119,6 @@ Pegelmesser</translation>
         <translation>%1 min</translation>
     </message>
     <message>
-        <source>Switch off the backlight</source>
-        <translation>Beleuchtung aus</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <comment>that time the backlight goes off</comment>
-        <translation>Nach</translation>
-    </message>
-    <message>
         <source>Brightness</source>
         <translation>Helligkeit</translation>
     </message>
@@ -144,12 +135,196 @@ Pegelmesser</translation>
         <source>On external power</source>
         <translation>Am Netzteil</translation>
     </message>
+    <message>
+        <source>Switch off the backlight after</source>
+        <comment>a time that stands beside it</comment>
+        <translation>Beleuchtung ausschalten nach</translation>
+    </message>
 </context>
 <context>
     <name>CBacklightPlugin</name>
     <message>
         <source>Backlight</source>
         <translation>Licht</translation>
+    </message>
+</context>
+<context>
+    <name>CGlobalSettings</name>
+    <message>
+        <source>General Setting</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Storage Setting</source>
+        <translation>Speicherung</translation>
+    </message>
+    <message>
+        <source>Save Setting</source>
+        <translation>Screenshots</translation>
+    </message>
+    <message>
+        <source>File Name Prefix</source>
+        <translation>Präfix der Dateinamen</translation>
+    </message>
+    <message>
+        <source>Maximum Number of Screenshots</source>
+        <translation>Höchstzahl der Screenshots</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>中文</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation>Magyar</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Maßeinheiten</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>Metrisch</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>Angloamerikanisch</translation>
+    </message>
+    <message>
+        <source>Audible Alarm</source>
+        <translation>Akustischer Alarm</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Show Password</source>
+        <translation>Passwörter anzeigen</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>User Interface</source>
+        <translation>Bedienoberfläche</translation>
+    </message>
+    <message>
+        <source>International</source>
+        <translation>International</translation>
+    </message>
+    <message>
+        <source>USA</source>
+        <translation>USA</translation>
+    </message>
+    <message>
+        <source>Clock Source</source>
+        <translation>Taktquelle</translation>
+    </message>
+    <message>
+        <source>Atomic 1PPS</source>
+        <translation>Atomuhr 1 PPS</translation>
+    </message>
+    <message>
+        <source>GPS 1PPS</source>
+        <translation>GPS 1 PPS</translation>
+    </message>
+    <message>
+        <source>Atomic Clock 10M Hz</source>
+        <translation>Atomuhr 10 MHz</translation>
+    </message>
+    <message>
+        <source>Profile Deleting</source>
+        <translation>Profile löschen</translation>
+    </message>
+    <message>
+        <source>Auto Delete</source>
+        <translation>Automatisch löschen</translation>
+    </message>
+    <message>
+        <source>Prompt User</source>
+        <translation>Nachfragen</translation>
+    </message>
+    <message>
+        <source>Profile Saving</source>
+        <translation>Profile speichern</translation>
+    </message>
+    <message>
+        <source>Auto Overwrite</source>
+        <translation>Automatisch überschreiben</translation>
+    </message>
+    <message>
+        <source>Result Saving</source>
+        <translation>Ergebnisse speichern</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manuell</translation>
+    </message>
+    <message>
+        <source>Advance Saving</source>
+        <translation>Erweitertes Speichern</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Lock/Save Screen</source>
+        <translation>Bildschirm sperren/Screenshot</translation>
+    </message>
+    <message>
+        <source>Lock Screen</source>
+        <translation>Bildschirm sperren</translation>
+    </message>
+    <message>
+        <source>Save Screen</source>
+        <translation>Screenshot speichern</translation>
+    </message>
+    <message>
+        <source>Screenshot Compression Level</source>
+        <translation>Komprimierung der Screenshots</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Mid</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>No Compression</source>
+        <translation>Keine</translation>
     </message>
 </context>
 <context>
@@ -227,6 +402,10 @@ Pegelmesser</translation>
     <message>
         <source>Space</source>
         <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
     </message>
 </context>
 <context>
@@ -442,6 +621,11 @@ ist erreicht oder überschritten!</translation>
     <message>
         <source>Enter a whole number from %1 to %2.</source>
         <translation>Bitte eine ganze Zahl von %1 bis %2 eingeben.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>limits of a number</comment>
+        <translation>%1 bis %2</translation>
     </message>
 </context>
 <context>

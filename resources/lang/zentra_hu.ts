@@ -119,15 +119,6 @@ teljesítménymérő</translation>
         <translation>%1 perc</translation>
     </message>
     <message>
-        <source>Switch off the backlight</source>
-        <translation>Világítás ki</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <comment>that time the backlight goes off</comment>
-        <translation>Ennyi után</translation>
-    </message>
-    <message>
         <source>Brightness</source>
         <translation>Fényerő</translation>
     </message>
@@ -144,12 +135,196 @@ teljesítménymérő</translation>
         <source>On external power</source>
         <translation>Külső tápról</translation>
     </message>
+    <message>
+        <source>Switch off the backlight after</source>
+        <comment>a time that stands beside it</comment>
+        <translation>Háttérvilágítás ki ennyi idő után</translation>
+    </message>
 </context>
 <context>
     <name>CBacklightPlugin</name>
     <message>
         <source>Backlight</source>
         <translation>Fény</translation>
+    </message>
+</context>
+<context>
+    <name>CGlobalSettings</name>
+    <message>
+        <source>General Setting</source>
+        <translation>Általános</translation>
+    </message>
+    <message>
+        <source>Storage Setting</source>
+        <translation>Tárolás</translation>
+    </message>
+    <message>
+        <source>Save Setting</source>
+        <translation>Képernyőképek</translation>
+    </message>
+    <message>
+        <source>File Name Prefix</source>
+        <translation>Fájlnév-előtag</translation>
+    </message>
+    <message>
+        <source>Maximum Number of Screenshots</source>
+        <translation>Képernyőképek legnagyobb száma</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Nyelv</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>中文</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation>Magyar</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Mértékegységek</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>Metrikus</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>Angolszász</translation>
+    </message>
+    <message>
+        <source>Audible Alarm</source>
+        <translation>Hangjelzés</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Be</translation>
+    </message>
+    <message>
+        <source>Show Password</source>
+        <translation>Jelszavak megjelenítése</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Igen</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nem</translation>
+    </message>
+    <message>
+        <source>User Interface</source>
+        <translation>Felhasználói felület</translation>
+    </message>
+    <message>
+        <source>International</source>
+        <translation>Nemzetközi</translation>
+    </message>
+    <message>
+        <source>USA</source>
+        <translation>USA</translation>
+    </message>
+    <message>
+        <source>Clock Source</source>
+        <translation>Órajelforrás</translation>
+    </message>
+    <message>
+        <source>Atomic 1PPS</source>
+        <translation>Atomóra 1 PPS</translation>
+    </message>
+    <message>
+        <source>GPS 1PPS</source>
+        <translation>GPS 1 PPS</translation>
+    </message>
+    <message>
+        <source>Atomic Clock 10M Hz</source>
+        <translation>Atomóra 10 MHz</translation>
+    </message>
+    <message>
+        <source>Profile Deleting</source>
+        <translation>Profilok törlése</translation>
+    </message>
+    <message>
+        <source>Auto Delete</source>
+        <translation>Automatikus törlés</translation>
+    </message>
+    <message>
+        <source>Prompt User</source>
+        <translation>Rákérdezés</translation>
+    </message>
+    <message>
+        <source>Profile Saving</source>
+        <translation>Profilok mentése</translation>
+    </message>
+    <message>
+        <source>Auto Overwrite</source>
+        <translation>Automatikus felülírás</translation>
+    </message>
+    <message>
+        <source>Result Saving</source>
+        <translation>Eredmények mentése</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Kézi</translation>
+    </message>
+    <message>
+        <source>Advance Saving</source>
+        <translation>Speciális mentés</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Ki</translation>
+    </message>
+    <message>
+        <source>Lock/Save Screen</source>
+        <translation>Képernyő zárolása/mentése</translation>
+    </message>
+    <message>
+        <source>Lock Screen</source>
+        <translation>Képernyő zárolása</translation>
+    </message>
+    <message>
+        <source>Save Screen</source>
+        <translation>Képernyőkép mentése</translation>
+    </message>
+    <message>
+        <source>Screenshot Compression Level</source>
+        <translation>Képernyőképek tömörítése</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Magas</translation>
+    </message>
+    <message>
+        <source>Mid</source>
+        <translation>Közepes</translation>
+    </message>
+    <message>
+        <source>No Compression</source>
+        <translation>Nincs</translation>
     </message>
 </context>
 <context>
@@ -227,6 +402,10 @@ teljesítménymérő</translation>
     <message>
         <source>Space</source>
         <translation>Szóköz</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Törlés</translation>
     </message>
 </context>
 <context>
@@ -442,6 +621,11 @@ vagy meghaladta a megengedettet!</translation>
     <message>
         <source>Enter a whole number from %1 to %2.</source>
         <translation>Adjon meg egy egész számot %1 és %2 között.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>limits of a number</comment>
+        <translation>%1–%2</translation>
     </message>
 </context>
 <context>

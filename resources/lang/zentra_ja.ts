@@ -119,15 +119,6 @@ Meter</source>
         <translation>%1 分</translation>
     </message>
     <message>
-        <source>Switch off the backlight</source>
-        <translation>バックライトを消す</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <comment>that time the backlight goes off</comment>
-        <translation>経過後</translation>
-    </message>
-    <message>
         <source>Brightness</source>
         <translation>明るさ</translation>
     </message>
@@ -144,12 +135,196 @@ Meter</source>
         <source>On external power</source>
         <translation>外部電源使用時</translation>
     </message>
+    <message>
+        <source>Switch off the backlight after</source>
+        <comment>a time that stands beside it</comment>
+        <translation>バックライトを消すまで</translation>
+    </message>
 </context>
 <context>
     <name>CBacklightPlugin</name>
     <message>
         <source>Backlight</source>
         <translation>照明</translation>
+    </message>
+</context>
+<context>
+    <name>CGlobalSettings</name>
+    <message>
+        <source>General Setting</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Storage Setting</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save Setting</source>
+        <translation>スクリーンショット</translation>
+    </message>
+    <message>
+        <source>File Name Prefix</source>
+        <translation>ファイル名の接頭辞</translation>
+    </message>
+    <message>
+        <source>Maximum Number of Screenshots</source>
+        <translation>スクリーンショットの最大数</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>中文</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation>Magyar</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>メートル法</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>ヤード・ポンド法</translation>
+    </message>
+    <message>
+        <source>Audible Alarm</source>
+        <translation>アラーム音</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Show Password</source>
+        <translation>パスワードの表示</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>User Interface</source>
+        <translation>ユーザインタフェース</translation>
+    </message>
+    <message>
+        <source>International</source>
+        <translation>国際</translation>
+    </message>
+    <message>
+        <source>USA</source>
+        <translation>米国</translation>
+    </message>
+    <message>
+        <source>Clock Source</source>
+        <translation>クロック源</translation>
+    </message>
+    <message>
+        <source>Atomic 1PPS</source>
+        <translation>原子時計 1PPS</translation>
+    </message>
+    <message>
+        <source>GPS 1PPS</source>
+        <translation>GPS 1PPS</translation>
+    </message>
+    <message>
+        <source>Atomic Clock 10M Hz</source>
+        <translation>原子時計 10 MHz</translation>
+    </message>
+    <message>
+        <source>Profile Deleting</source>
+        <translation>プロファイルの削除</translation>
+    </message>
+    <message>
+        <source>Auto Delete</source>
+        <translation>自動削除</translation>
+    </message>
+    <message>
+        <source>Prompt User</source>
+        <translation>確認する</translation>
+    </message>
+    <message>
+        <source>Profile Saving</source>
+        <translation>プロファイルの保存</translation>
+    </message>
+    <message>
+        <source>Auto Overwrite</source>
+        <translation>自動上書き</translation>
+    </message>
+    <message>
+        <source>Result Saving</source>
+        <translation>結果の保存</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手動</translation>
+    </message>
+    <message>
+        <source>Advance Saving</source>
+        <translation>詳細保存</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Lock/Save Screen</source>
+        <translation>画面ロック/保存</translation>
+    </message>
+    <message>
+        <source>Lock Screen</source>
+        <translation>画面ロック</translation>
+    </message>
+    <message>
+        <source>Save Screen</source>
+        <translation>画面を保存</translation>
+    </message>
+    <message>
+        <source>Screenshot Compression Level</source>
+        <translation>スクリーンショットの圧縮</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Mid</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>No Compression</source>
+        <translation>なし</translation>
     </message>
 </context>
 <context>
@@ -227,6 +402,10 @@ Meter</source>
     <message>
         <source>Space</source>
         <translation>空白</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>クリア</translation>
     </message>
 </context>
 <context>
@@ -442,6 +621,11 @@ or exceed maximum number allowed!</source>
     <message>
         <source>Enter a whole number from %1 to %2.</source>
         <translation>%1 から %2 までの整数を入力してください。</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>limits of a number</comment>
+        <translation>%1～%2</translation>
     </message>
 </context>
 <context>

@@ -119,15 +119,6 @@ Meter</source>
         <translation>%1 мин</translation>
     </message>
     <message>
-        <source>Switch off the backlight</source>
-        <translation>Гасить подсветку</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <comment>that time the backlight goes off</comment>
-        <translation>Через</translation>
-    </message>
-    <message>
         <source>Brightness</source>
         <translation>Яркость</translation>
     </message>
@@ -144,12 +135,196 @@ Meter</source>
         <source>On external power</source>
         <translation>От внешнего питания</translation>
     </message>
+    <message>
+        <source>Switch off the backlight after</source>
+        <comment>a time that stands beside it</comment>
+        <translation>Выключать подсветку через</translation>
+    </message>
 </context>
 <context>
     <name>CBacklightPlugin</name>
     <message>
         <source>Backlight</source>
         <translation>Подсветка</translation>
+    </message>
+</context>
+<context>
+    <name>CGlobalSettings</name>
+    <message>
+        <source>General Setting</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>Storage Setting</source>
+        <translation>Хранение</translation>
+    </message>
+    <message>
+        <source>Save Setting</source>
+        <translation>Снимки экрана</translation>
+    </message>
+    <message>
+        <source>File Name Prefix</source>
+        <translation>Префикс имён файлов</translation>
+    </message>
+    <message>
+        <source>Maximum Number of Screenshots</source>
+        <translation>Максимальное число снимков</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>中文</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation>Magyar</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Единицы измерения</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>Метрические</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>Британские</translation>
+    </message>
+    <message>
+        <source>Audible Alarm</source>
+        <translation>Звуковой сигнал</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Вкл.</translation>
+    </message>
+    <message>
+        <source>Show Password</source>
+        <translation>Показывать пароли</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Да</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>User Interface</source>
+        <translation>Интерфейс</translation>
+    </message>
+    <message>
+        <source>International</source>
+        <translation>Международный</translation>
+    </message>
+    <message>
+        <source>USA</source>
+        <translation>США</translation>
+    </message>
+    <message>
+        <source>Clock Source</source>
+        <translation>Источник синхронизации</translation>
+    </message>
+    <message>
+        <source>Atomic 1PPS</source>
+        <translation>Атомные часы 1PPS</translation>
+    </message>
+    <message>
+        <source>GPS 1PPS</source>
+        <translation>GPS 1PPS</translation>
+    </message>
+    <message>
+        <source>Atomic Clock 10M Hz</source>
+        <translation>Атомные часы 10 МГц</translation>
+    </message>
+    <message>
+        <source>Profile Deleting</source>
+        <translation>Удаление профилей</translation>
+    </message>
+    <message>
+        <source>Auto Delete</source>
+        <translation>Удалять автоматически</translation>
+    </message>
+    <message>
+        <source>Prompt User</source>
+        <translation>Спрашивать</translation>
+    </message>
+    <message>
+        <source>Profile Saving</source>
+        <translation>Сохранение профилей</translation>
+    </message>
+    <message>
+        <source>Auto Overwrite</source>
+        <translation>Перезаписывать автоматически</translation>
+    </message>
+    <message>
+        <source>Result Saving</source>
+        <translation>Сохранение результатов</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Вручную</translation>
+    </message>
+    <message>
+        <source>Advance Saving</source>
+        <translation>Расширенное сохранение</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Выкл.</translation>
+    </message>
+    <message>
+        <source>Lock/Save Screen</source>
+        <translation>Блокировка/снимок экрана</translation>
+    </message>
+    <message>
+        <source>Lock Screen</source>
+        <translation>Блокировка экрана</translation>
+    </message>
+    <message>
+        <source>Save Screen</source>
+        <translation>Снимок экрана</translation>
+    </message>
+    <message>
+        <source>Screenshot Compression Level</source>
+        <translation>Сжатие снимков экрана</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Высокое</translation>
+    </message>
+    <message>
+        <source>Mid</source>
+        <translation>Среднее</translation>
+    </message>
+    <message>
+        <source>No Compression</source>
+        <translation>Нет</translation>
     </message>
 </context>
 <context>
@@ -227,6 +402,10 @@ Meter</source>
     <message>
         <source>Space</source>
         <translation>Пробел</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
     </message>
 </context>
 <context>
@@ -442,6 +621,11 @@ or exceed maximum number allowed!</source>
     <message>
         <source>Enter a whole number from %1 to %2.</source>
         <translation>Введите целое число от %1 до %2.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>limits of a number</comment>
+        <translation>от %1 до %2</translation>
     </message>
 </context>
 <context>

@@ -118,15 +118,6 @@ Meter</source>
         <translation>%1 分钟</translation>
     </message>
     <message>
-        <source>Switch off the backlight</source>
-        <translation>关闭背光</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <comment>that time the backlight goes off</comment>
-        <translation>延时</translation>
-    </message>
-    <message>
         <source>Brightness</source>
         <translation>亮度</translation>
     </message>
@@ -143,12 +134,196 @@ Meter</source>
         <source>On external power</source>
         <translation>使用外接电源</translation>
     </message>
+    <message>
+        <source>Switch off the backlight after</source>
+        <comment>a time that stands beside it</comment>
+        <translation>关闭背光前等待</translation>
+    </message>
 </context>
 <context>
     <name>CBacklightPlugin</name>
     <message>
         <source>Backlight</source>
         <translation>背光</translation>
+    </message>
+</context>
+<context>
+    <name>CGlobalSettings</name>
+    <message>
+        <source>General Setting</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Storage Setting</source>
+        <translation>存储</translation>
+    </message>
+    <message>
+        <source>Save Setting</source>
+        <translation>截图</translation>
+    </message>
+    <message>
+        <source>File Name Prefix</source>
+        <translation>文件名前缀</translation>
+    </message>
+    <message>
+        <source>Maximum Number of Screenshots</source>
+        <translation>截图最大数量</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>中文</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>French</source>
+        <translation>Français</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>Hungarian</source>
+        <translation>Magyar</translation>
+    </message>
+    <message>
+        <source>Russian</source>
+        <translation>Русский</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>公制</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>英制</translation>
+    </message>
+    <message>
+        <source>Audible Alarm</source>
+        <translation>声音告警</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Show Password</source>
+        <translation>显示密码</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>User Interface</source>
+        <translation>用户界面</translation>
+    </message>
+    <message>
+        <source>International</source>
+        <translation>国际</translation>
+    </message>
+    <message>
+        <source>USA</source>
+        <translation>美国</translation>
+    </message>
+    <message>
+        <source>Clock Source</source>
+        <translation>时钟源</translation>
+    </message>
+    <message>
+        <source>Atomic 1PPS</source>
+        <translation>原子钟 1PPS</translation>
+    </message>
+    <message>
+        <source>GPS 1PPS</source>
+        <translation>GPS 1PPS</translation>
+    </message>
+    <message>
+        <source>Atomic Clock 10M Hz</source>
+        <translation>原子钟 10 MHz</translation>
+    </message>
+    <message>
+        <source>Profile Deleting</source>
+        <translation>删除配置文件</translation>
+    </message>
+    <message>
+        <source>Auto Delete</source>
+        <translation>自动删除</translation>
+    </message>
+    <message>
+        <source>Prompt User</source>
+        <translation>提示用户</translation>
+    </message>
+    <message>
+        <source>Profile Saving</source>
+        <translation>保存配置文件</translation>
+    </message>
+    <message>
+        <source>Auto Overwrite</source>
+        <translation>自动覆盖</translation>
+    </message>
+    <message>
+        <source>Result Saving</source>
+        <translation>保存结果</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>手动</translation>
+    </message>
+    <message>
+        <source>Advance Saving</source>
+        <translation>高级保存</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>Lock/Save Screen</source>
+        <translation>锁定/保存屏幕</translation>
+    </message>
+    <message>
+        <source>Lock Screen</source>
+        <translation>锁定屏幕</translation>
+    </message>
+    <message>
+        <source>Save Screen</source>
+        <translation>保存屏幕</translation>
+    </message>
+    <message>
+        <source>Screenshot Compression Level</source>
+        <translation>截图压缩级别</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Mid</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>No Compression</source>
+        <translation>无</translation>
     </message>
 </context>
 <context>
@@ -226,6 +401,10 @@ Meter</source>
     <message>
         <source>Space</source>
         <translation>空格</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
     </message>
 </context>
 <context>
@@ -441,6 +620,11 @@ or exceed maximum number allowed!</source>
     <message>
         <source>Enter a whole number from %1 to %2.</source>
         <translation>请输入 %1 到 %2 之间的整数。</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>limits of a number</comment>
+        <translation>%1～%2</translation>
     </message>
 </context>
 <context>

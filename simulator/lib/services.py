@@ -170,6 +170,7 @@ class Services:
             self.launch_with_pipe("daemon", lambda fd: [self.tool("platformd"), "--ready-fd", fd])
         if "daemon" in parts:
             self.launch("usbd", [self.tool("usbd")])
+            self.launch("settings", [self.tool("globalsegment"), "keep"])
         if "x" in parts:
             number = self.wait("x")
             for name in window_of or ():

@@ -1,66 +1,86 @@
 // Owner of the global settings segment: makes it as the platform does at power-on, and shows what is in it.
 //
 // globalsegment create [SIZE]
-//     makes the segment, SIZE bytes (1024 without one), all zero but for the magic mark
+//     makes the segment, SIZE bytes (1024 without one), with the magic mark and, if it is large enough, the
+//     settings that were kept, or those of a fresh unit
+// globalsegment keep
+//     keeps the settings in a file from now on: writes it, whole or not at all, when one has changed
 // globalsegment show
 //     prints the settings in it, one "name value" a line
 // globalsegment remove
 //     gives the segment back, where no namespace of its own does so
+#include "lastconfiguration.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
 #include <cerrno>
+#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <sys/ipc.h>
 #include <sys/shm.h>
+#include <thread>
 
 namespace {
 
 constexpr char KeyFile[] = "/usr/local/arvo/share/res/keys/global";
 constexpr int ProjectId = 86;
-constexpr std::size_t SegmentSize = 1024;
 constexpr std::uint32_t MagicMark = 0x4F565241; // "ARVO"
 
-struct Field
-{
-    const char* name;
-    std::size_t offset;
-};
-
-constexpr Field Fields[] = {
-    {"unittype", 4},
-    {"audible_alarm", 8},
-    {"show_password", 12},
-    {"profdel_type", 80},
-    {"profsave_type", 84},
-    {"rsltsave_type", 88},
-    {"advanced_save", 92},
-    {"bl_off_battery_on", 96},
-    {"bl_off_battery_time", 100},
-    {"bl_off_AC_on", 104},
-    {"bl_off_AC_time", 108},
-    {"br_level_battery", 112},
-    {"br_level_AC", 116},
-    {"save_screen_enable", 120},
-    {"save_screen_compress", 124},
-    {"save_screen_maxnum", 132},
-    {"ui_style", 216},
-    {"initdef_appindex", 512},
-    {"manport_bootconnect", 516},
-    {"clock_source_0", 520},
-    {"clock_source_1", 524},
-    {"clock_source_2", 528},
-    {"clock_source_3", 532},
-    {"clock_source_4", 536},
-    {"clock_source_5", 540},
-};
-constexpr std::size_t PrefixOffset = 16;
-constexpr std::size_t PrefixSize = 64;
+constexpr char KeptDirectory[] = "/home/arvo/arvo-prof/arvoglobal-setting";
+constexpr char KeptFile[] = "/home/arvo/arvo-prof/arvoglobal-setting/Last configuration";
+constexpr int KeptLimit = 1024 * 1024; // bytes; a longer file is none of ours
+constexpr std::chrono::milliseconds LookPause(100);
+constexpr std::chrono::milliseconds RetryPause(1000);
 
 int failed(const char* what)
 {
     std::fprintf(stderr, "globalsegment: %s: %s\n", what, std::strerror(errno));
     return 1;
+}
+
+void fill(char* block)
+{
+    fillFactory(block);
+    QFile file(QString::fromLatin1(KeptFile));
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
+        return; // a fresh unit
+    if (file.size() > KeptLimit || !readConfiguration(file.read(KeptLimit), block))
+        std::fprintf(stderr, "globalsegment: %s can not be read\n", KeptFile);
+}
+
+bool write(const QByteArray& content)
+{
+    QDir().mkpath(QString::fromLatin1(KeptDirectory));
+    QSaveFile file(QString::fromLatin1(KeptFile));
+    return file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write(content) == content.size()
+        && file.commit();
+}
+
+int keep(key_t key)
+{
+    const void* const attached = shmat(shmget(key, BlockSize, 0), nullptr, SHM_RDONLY);
+    if (attached == reinterpret_cast<void*>(-1))
+        return failed("no segment to keep");
+    const char* const block = static_cast<const char*>(attached);
+    // Nobody tells of a change: other processes write plain memory.
+    QByteArray kept = writeConfiguration(block);
+    for (bool isFailing = false;; std::this_thread::sleep_for(isFailing ? RetryPause : LookPause)) {
+        const QByteArray content = writeConfiguration(block);
+        if (content == kept)
+            continue;
+        const bool isWritten = write(content);
+        if (isWritten)
+            kept = content;
+        else if (!isFailing)
+            std::fprintf(stderr, "globalsegment: %s can not be written\n", KeptFile);
+        isFailing = !isWritten;
+    }
 }
 
 int create(key_t key, std::size_t size)
@@ -78,6 +98,8 @@ int create(key_t key, std::size_t size)
         return failed("cannot attach the segment");
     if (size >= sizeof MagicMark)
         std::memcpy(block, &MagicMark, sizeof MagicMark);
+    if (size >= BlockSize)
+        fill(static_cast<char*>(block));
     shmdt(block);
     return 0;
 }
@@ -109,7 +131,7 @@ int show(key_t key)
         std::printf("%s %d\n", field.name, value);
     }
     if (PrefixOffset + PrefixSize <= state.shm_segsz)
-        std::printf("fname_prefix %.*s\n", static_cast<int>(PrefixSize), block + PrefixOffset);
+        std::printf("%s %.*s\n", PrefixName, static_cast<int>(PrefixSize), block + PrefixOffset);
     return 0;
 }
 
@@ -121,7 +143,7 @@ int main(int argc, char** argv)
     if (key == -1)
         return failed(KeyFile);
     if (argc >= 2 && std::strcmp(argv[1], "create") == 0) {
-        const unsigned long size = argc > 2 ? std::strtoul(argv[2], nullptr, 10) : SegmentSize;
+        const unsigned long size = argc > 2 ? std::strtoul(argv[2], nullptr, 10) : BlockSize;
         if (size == 0) {
             std::fprintf(stderr, "globalsegment: %s is no size\n", argv[2]);
             return 2;
@@ -130,8 +152,10 @@ int main(int argc, char** argv)
     }
     if (argc == 2 && std::strcmp(argv[1], "show") == 0)
         return show(key);
+    if (argc == 2 && std::strcmp(argv[1], "keep") == 0)
+        return keep(key);
     if (argc == 2 && std::strcmp(argv[1], "remove") == 0)
         return remove(key);
-    std::fprintf(stderr, "usage: globalsegment create [SIZE] | show | remove\n");
+    std::fprintf(stderr, "usage: globalsegment create [SIZE] | keep | show | remove\n");
     return 2;
 }

@@ -7,6 +7,7 @@
 #include "widgets/keypad/keypaddialog.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/widgetstyle/widgetstyle.h"
+#include "widgets/tabwidget/tabwidget.h"
 
 #include <QSet>
 
@@ -46,14 +47,23 @@ int changedByMarker(CPushButton* button)
     return changed;
 }
 
-QList<CPushButton*> touchable(const QWidget* top)
+/** The controls that the marker may stand on, the idle ones among them: they lead on too. */
+QList<CPushButton*> markable(const QWidget* top)
 {
     QList<CPushButton*> found;
     for (auto* button : top->findChildren<CPushButton*>()) {
-        if (button->isVisibleTo(top) && button->isEnabled()
-            && !button->testAttribute(Qt::WA_TransparentForMouseEvents))
+        if (button->isVisibleTo(top) && !button->testAttribute(Qt::WA_TransparentForMouseEvents))
             found << button;
     }
+    return found;
+}
+
+QList<CPushButton*> touchable(const QWidget* top)
+{
+    QList<CPushButton*> found = markable(top);
+    found.erase(std::remove_if(found.begin(), found.end(),
+                    [](const CPushButton* button) { return !button->isEnabled(); }),
+        found.end());
     return found;
 }
 
@@ -280,8 +290,9 @@ void TestNavigation::everyControlIsReached_data()
 {
     QTest::addColumn<int>("toolPage"); // open page of the tool box, -1 for none
     QTest::addColumn<int>("utility");
+    QTest::addColumn<int>("tab"); // of the utility's page, if it has any
     for (int page = -1; page < 3; ++page)
-        QTest::addRow("home, tool box page %d", page) << page << int(UTILITY_ID_BEGIN);
+        QTest::addRow("home, tool box page %d", page) << page << int(UTILITY_ID_BEGIN) << 0;
     const struct
     {
         const char* name;
@@ -296,7 +307,12 @@ void TestNavigation::everyControlIsReached_data()
     };
     for (const auto& page : pages) {
         for (int tool = -1; tool < 3; ++tool)
-            QTest::addRow("%s, tool box page %d", page.name, tool) << tool << page.id;
+            QTest::addRow("%s, tool box page %d", page.name, tool) << tool << page.id << 0;
+    }
+    for (int tab = 0; tab < 3; ++tab) {
+        for (int tool = -1; tool < 3; ++tool)
+            QTest::addRow("settings tab %d, tool box page %d", tab, tool)
+                << tool << int(UTILITY_ID_GLOBAL) << tab;
     }
 }
 
@@ -304,15 +320,18 @@ void TestNavigation::everyControlIsReached()
 {
     QFETCH(int, toolPage);
     QFETCH(int, utility);
+    QFETCH(int, tab);
     if (utility != UTILITY_ID_BEGIN) {
         m_window->changeCurrentUtil(utility);
         QTRY_VERIFY(!qobject_cast<CHomePage*>(topPage()) && !qobject_cast<CStartUtilWindow*>(topPage()));
         QVERIFY(homeShown());
     }
     toolBox()->setOpenPage(toolPage);
+    if (auto* tabs = m_window->findChild<CTabWidget*>())
+        tabs->setCurrentIndex(tab);
 
     const Search search(m_window.get());
-    const QList<CPushButton*> buttons = touchable(m_window.get());
+    const QList<CPushButton*> buttons = markable(m_window.get());
     Ways ways;
     for (CPushButton* from : buttons) {
         for (const auto direction :

@@ -26,8 +26,8 @@ ACBacklightChanged          true           -                     -           -
 -                           -              -                     -           -
 -                           -              -                     -           -
 -                           -              -                     -           -
-PasswordVisible             true           show_password         on          1
-LockScreenORSaveScreen      true           save_screen_enable    on          1
+PasswordVisible             true           show_password         off         0
+LockScreenORSaveScreen      true           save_screen_enable    off         0
 SaveScreenCompressLevel     65001          save_screen_compress  high        7
 SaveScreenMaxNum            50             save_screen_maxnum    35          35
 Exist_Module_1              true           -                     -           -
@@ -50,7 +50,7 @@ FileNamePrefix              -              fname_prefix          site        sit
 ClkSrc0                     tcxo           clock_source_0        gps         2
 ClkSrc1                     tcxo           clock_source_1        atomic      3
 ClkSrc2                     tcxo           clock_source_2        atomic_10m  4
-ClkSrc3                     tcxo           clock_source_3        tcxo        1
+ClkSrc3                     tcxo           clock_source_3        gps         2
 ClkSrc4                     tcxo           clock_source_4        gps         2
 ClkSrc5                     tcxo           clock_source_5        atomic      3
 ManPortBoot                 false          manport_bootconnect   on          1

@@ -23,6 +23,7 @@ private slots:
     void initTestCase() { open(); }
     void init() { reset(); }
     void cleanup() { QCOMPARE(region(), QRect()); }
+    void pageClosedBelowABoxOpensAgain();
 
     void failureDismissedComesBack();
     void storagePageOverTestApplication();
@@ -186,6 +187,24 @@ void TestStatus::backlightTimeBeyondATimer()
     QCOMPARE(running(interval), before + 1);
     setSetting(CSystemSettings::ACBacklightEnabled, false);
     m_window->checkSystemSettings();
+}
+
+void TestStatus::pageClosedBelowABoxOpensAgain()
+{
+    CWithDialog page([this](CDialog* power) {
+        CWithDialog above([this, power](CDialog* box) {
+            power->reject(); // its event loop ends after the box's
+            m_window->showPowerInfo();
+            QVERIFY(power->isVisible());
+            power->reject();
+            box->reject();
+        });
+        CMessageBox box(QString(), QStringLiteral("above"), CMessageBox::Ok, m_window.get());
+        box.exec();
+        QVERIFY(above.isDone());
+    });
+    m_window->showPowerInfo();
+    QVERIFY(page.isDone());
 }
 
 QTEST_MAIN(TestStatus)

@@ -111,6 +111,8 @@ private slots:
     void changesAreWritten();
     void brightnessSteps_data();
     void brightnessSteps();
+    void levelFollowsTheTouch();
+    void idleTimeLooksIdle();
     void followsChangesElsewhere();
 
 private:
@@ -258,6 +260,41 @@ void TestBacklight::brightnessSteps()
         QCOMPARE(store()->getAttribute(source.brightness), brighter);
         QCOMPARE(group.level->text(), brighter.toString() + QStringLiteral(" %"));
     }
+}
+
+void TestBacklight::levelFollowsTheTouch()
+{
+    CPluginHost host(PLUGIN_FILE);
+    open(host);
+    const Group group(host.page(), Sources[0]);
+    auto* area = group.bar->parentWidget();
+    const auto at = [&group](int percent) {
+        const QRect bar = group.bar->geometry();
+        return QPoint(bar.left() + bar.width() * percent / 100, bar.top() - 10); // a finger's width beside it
+    };
+    const auto level = [] { return store()->getAttribute(S::BatteryBrightness).toInt(); };
+    QTest::mousePress(area, Qt::LeftButton, {}, at(31));
+    QCOMPARE(level(), 30);
+    for (const int percent : {77, 140}) {
+        QMouseEvent move(QEvent::MouseMove, at(percent), Qt::NoButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(area, &move);
+        QCOMPARE(level(), percent > 100 ? 100 : 75);
+    }
+    QTest::mouseRelease(area, Qt::LeftButton, {}, at(100));
+    QTest::mousePress(area, Qt::LeftButton, {}, QPoint(100, 20)); // elsewhere
+    QCOMPARE(level(), 100);
+}
+
+void TestBacklight::idleTimeLooksIdle()
+{
+    CPluginHost host(PLUGIN_FILE);
+    open(host);
+    const Group group(host.page(), Sources[1]);
+    QVERIFY(!group.time->isEnabled());
+    const QImage idle = group.time->grab().toImage();
+    QTest::mouseClick(group.enabled, Qt::LeftButton);
+    QVERIFY(group.time->isEnabled());
+    QVERIFY(group.time->grab().toImage() != idle);
 }
 
 void TestBacklight::followsChangesElsewhere()

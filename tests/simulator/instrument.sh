@@ -141,10 +141,13 @@ expect 'USB requests' 'mounted plugged empty mounted kept plugged refused unplug
     usb' | tr '\n' ' ' | sed 's/ $//')"
 expect 'status shows the lock' 'unlocked locked' "$(bare -- sh -c '
     simctl status | sed -n "s/^lock *//p"; : >/tmp/screen-locked.mark; simctl status | sed -n "s/^lock *//p"' | xargs)"
+expect 'status shows the chassis and the calls of its clock tools' 'E peldasetclk LA 2; orlo-clocksrc --set gps' "$(bare -- sh -c '
+    simctl board E; peldasetclk LA 2; peldasetclk LD 2 2>/dev/null; /usr/local/arvo/bin/orlo-clocksrc --set gps
+    simctl status | sed -n "s/^board *//p; s/^clock *//p"' | xargs)"
 expect 'status shows the services' 'orlo-cli stop/waiting; orlo-vnc start/running, process N' "$(bare -- sh -c '
     initctl start orlo-vnc >/dev/null; simctl status' | sed -n 's/^services *//p' | sed 's/process [0-9]*/process N/')"
 for line in 'service' 'service nonsense start' 'wifi' 'wifi on' 'wifi link' 'wifi link 101' 'wifi link -1' 'usb' 'usb eject' 'fail' 'fail 0' 'fail 12' \
-    'segment' 'daemon stop' 'viewers x' 'nonsense'; do
+    'board' 'board F' 'segment' 'daemon stop' 'viewers x' 'nonsense'; do
     # shellcheck disable=SC2086
     message=$(bare -- sh -c 'simctl $1 2>&1 >/dev/null || echo "status $?"' sh "$line" | tail -n 2)
     case $message in

@@ -7,6 +7,8 @@
 #include "widgets/label/label.h"
 #include "widgets/progressbar/progressbar.h"
 #include "widgets/statusicon/statusicon.h"
+#include "widgets/tabwidget/tabbutton.h"
+#include "widgets/tabwidget/tabwidget.h"
 #include "widgets/toolbox/toolbox.h"
 #include "widgets/widgetstyle/stylepainter.h"
 #include "widgets/widgetstyle/widgetstyle.h"
@@ -382,6 +384,41 @@ private slots:
         QCOMPARE(middle(), QColor(Qt::red));
         icon.setDown(true);
         QCOMPARE(middle(), QColor(Qt::blue));
+    }
+
+    void tabsShowOnePage()
+    {
+        CTabWidget tabs;
+        tabs.resize(400, 300);
+        tabs.show();
+        QSignalSpy changed(&tabs, &CTabWidget::currentChanged);
+        for (const char* text : {"One", "Two", "Three"})
+            tabs.addTab(new CWidget, QLatin1String(text));
+        const auto buttons = tabs.findChildren<CTabButton*>();
+        const auto seen = [&tabs] {
+            QList<int> indexes;
+            for (int i = 0; i < tabs.count(); ++i) {
+                if (tabs.widget(i)->isVisible())
+                    indexes << i;
+            }
+            return indexes;
+        };
+        QCOMPARE(seen(), QList<int>{0});
+        QTest::mouseClick(buttons.at(2), Qt::LeftButton);
+        QTest::mouseClick(buttons.at(2), Qt::LeftButton); // stays
+        QCOMPARE(seen(), QList<int>{2});
+        QVERIFY(buttons.at(2)->isChecked() && !buttons.at(0)->isChecked());
+        tabs.setCurrentIndex(7);
+        QCOMPARE(tabs.currentIndex(), 2);
+        QCOMPARE(changed.count(), 2); // the first page, and the third
+        QRegion taken;
+        for (const CTabButton* button : buttons) {
+            QVERIFY(button->width() >= 40 && button->height() >= 40 && !taken.intersects(button->geometry()));
+            taken += button->geometry();
+        }
+        QCOMPARE(taken.boundingRect().width(), 400);
+        QCOMPARE(tabs.widget(2)->geometry().bottom(), 299);
+        QVERIFY(!taken.intersects(tabs.widget(2)->geometry()));
     }
 
 private:

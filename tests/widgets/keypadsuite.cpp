@@ -153,6 +153,21 @@ private slots:
         QCOMPARE(pad.markedButton()->objectName(), QStringLiteral("key;"));
     }
 
+    void bytesAreCounted()
+    {
+        const QString umlauts(6, QChar(0xe4));
+        CKeyPadDialog pad(QStringLiteral("Name"), umlauts, Pad::KeyPadText);
+        pad.setMaxBytes(9); // cuts between characters
+        QCOMPARE(pad.text(), umlauts.left(4));
+        show(pad);
+        touch(pad, QStringLiteral("keya"));
+        touch(pad, QStringLiteral("keyb"));
+        QCOMPARE(pad.text(), umlauts.left(4) + QLatin1Char('a'));
+        QCOMPARE(pad.findChild<CLabel*>(QStringLiteral("count"))->text(), QStringLiteral("9 / 9"));
+        touch(pad, QStringLiteral("clear"));
+        QCOMPARE(pad.text(), QString());
+    }
+
     void onlyOkChangesTheText()
     {
         QString text = QStringLiteral("a");

@@ -3,6 +3,7 @@
 #include "widgets/checkbox/checkbox.h"
 #include "widgets/keypad/keypadlayout.h"
 #include "widgets/keywatch/keywatch.h"
+#include "widgets/keypad/padvalidator.h"
 #include "widgets/label/label.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/touchregion/touchregion.h"
@@ -14,7 +15,6 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPointer>
-#include <QRegularExpressionValidator>
 
 #include <algorithm>
 
@@ -28,8 +28,9 @@ constexpr int TextHeight = 46;
 constexpr int TextSize = 22;
 constexpr int Margin = 8;
 constexpr int Gap = 6;
-constexpr int CountWidth = 90;
+constexpr int CountWidth = 90; // at least
 constexpr int AnswerWidth = 170;
+constexpr int SmallestClear = 84;
 constexpr int FieldRadius = 6;
 constexpr int FrameRoom = 3; // between the text's widget and the field's edge
 
@@ -72,6 +73,7 @@ CKeyPadDialog::CKeyPadDialog(
     , m_pTitle(new CLabel(title, this))
     , m_pCount(new CLabel(this))
     , m_pText(new QLineEdit(this))
+    , m_pValidator(new CPadValidator(m_pText))
 {
     setBackgroundColor(CWidgetStyle::ColorScreen);
     setBorderColor(CWidgetStyle::ColorFrame);
@@ -90,6 +92,7 @@ CKeyPadDialog::CKeyPadDialog(
     m_pText->setFrame(false);
     m_pText->setContextMenuPolicy(Qt::NoContextMenu);
     m_pText->installEventFilter(this);
+    m_pText->setValidator(m_pValidator);
     connect(m_pText, &QLineEdit::textChanged, this, &CKeyPadDialog::showCount);
     if (parentWidget())
         parentWidget()->installEventFilter(this);
@@ -121,18 +124,28 @@ void CKeyPadDialog::setMaxLength(int characters)
     layoutParts();
 }
 
+void CKeyPadDialog::setMaxBytes(int bytes)
+{
+    m_pText->setText(CPadValidator::cutToBytes(text(), bytes));
+    m_pValidator->setMaxBytes(bytes);
+    m_pCount->setVisible(bytes > 0);
+    showCount();
+    layoutParts();
+}
+
+void CKeyPadDialog::setHint(const QString& hint)
+{
+    m_pCount->setText(hint);
+    disconnect(m_pText, &QLineEdit::textChanged, this, &CKeyPadDialog::showCount);
+    m_pCount->show();
+    layoutParts();
+}
+
 void CKeyPadDialog::setAllowedCharacters(const QString& characters)
 {
     m_allowed = characters;
-    delete m_pText->validator();
-    if (!characters.isEmpty()) {
-        QString set;
-        // What is there already is let pass: while any of it is left, nothing could be deleted else.
-        for (const QChar character : characters + text())
-            set += QRegularExpression::escape(QString(character));
-        m_pText->setValidator(new QRegularExpressionValidator(
-            QRegularExpression(QLatin1Char('[') + set + QLatin1String("]*")), m_pText));
-    }
+    // What is there already is let pass: while any of it is left, nothing could be deleted else.
+    m_pValidator->setAllowed(characters.isEmpty() ? QString() : characters + text());
     enableKeys();
 }
 
@@ -246,6 +259,7 @@ void CKeyPadDialog::makeKeys()
         m_keys << keys;
     }
     m_pClear = makeKey(QChar(CKeyPadKey::ClearText));
+    m_pClear->setText(tr("Clear"));
     if (m_type == CKeyPadFactory::KeyPadPassword) {
         m_pShowPassword = new CCheckBox(tr("Show password"), this);
         m_pShowPassword->setObjectName(QStringLiteral("showPassword"));
@@ -362,7 +376,10 @@ void CKeyPadDialog::enableKeys()
 
 void CKeyPadDialog::showCount()
 {
-    m_pCount->setText(QStringLiteral("%1 / %2").arg(m_pText->text().size()).arg(m_pText->maxLength()));
+    const int bytes = m_pValidator->maxBytes();
+    m_pCount->setText(QStringLiteral("%1 / %2")
+                          .arg(bytes > 0 ? text().toUtf8().size() : text().size())
+                          .arg(bytes > 0 ? bytes : m_pText->maxLength()));
 }
 
 void CKeyPadDialog::styleText()
@@ -381,7 +398,8 @@ void CKeyPadDialog::styleText()
 void CKeyPadDialog::layoutParts()
 {
     const QRect inner = innerRect();
-    const int count = m_pCount->isVisibleTo(this) ? CountWidth : 0;
+    const int count
+        = m_pCount->isVisibleTo(this) ? std::max(CountWidth, m_pCount->sizeHint().width() + 2 * Margin) : 0;
     m_pTitle->setGeometry(inner.left(), inner.top(), inner.width() - count, TitleHeight);
     int titleSize = TitleTextSize;
     do
@@ -390,7 +408,8 @@ void CKeyPadDialog::layoutParts()
     m_pCount->setGeometry(inner.right() + 1 - count, inner.top(), count, TitleHeight);
 
     const QRect area = inner.adjusted(Margin, TitleHeight + Margin, -Margin, -Margin);
-    const QRect clear(area.right() + 1 - TextHeight - Margin, area.top(), TextHeight + Margin, TextHeight);
+    const int clearWidth = std::max(SmallestClear, m_pClear->sizeHint().width());
+    const QRect clear(area.right() + 1 - clearWidth, area.top(), clearWidth, TextHeight);
     m_pClear->setGeometry(clear);
     m_pText->setGeometry(area.left() + Margin, area.top() + FrameRoom,
         clear.left() - Gap - area.left() - 2 * Margin, TextHeight - 2 * FrameRoom);

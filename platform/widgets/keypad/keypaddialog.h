@@ -10,6 +10,7 @@
 
 class CCheckBox;
 class CLabel;
+class CPadValidator;
 class QLineEdit;
 
 /**
@@ -36,6 +37,12 @@ public:
 
     /** Most characters, 0 for no limit; a longer text is cut. The count is shown beside the title. */
     void setMaxLength(int characters);
+    /** Most bytes of the text in UTF-8, 0 for no limit; as setMaxLength() else, which counts the same way
+     * then.
+     */
+    void setMaxBytes(int bytes);
+    /** Says beside the title what can be typed, in place of a count. */
+    void setHint(const QString& hint);
     /** Takes no other characters than these, and disables the keys of others. */
     void setAllowedCharacters(const QString& characters);
     /** Asked at OK. A refused text gets a message, and the pad stays with it. */
@@ -80,6 +87,7 @@ private:
     CLabel* m_pTitle;
     CLabel* m_pCount;
     QLineEdit* m_pText;
+    CPadValidator* m_pValidator; // of m_pText
     CKeyPadKey* m_pClear = nullptr;
     CCheckBox* m_pShowPassword = nullptr; // password pad only
     CPushButton* m_pCancel = nullptr;

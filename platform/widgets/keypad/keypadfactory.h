@@ -11,8 +11,8 @@ class QWidget;
 class CKeyPadFactory
 {
 public:
-    /** Which keys a pad offers. */
-    enum KeyPadType { KeyPadText = 0, KeyPadNumber = 1, KeyPadAddress = 2, KeyPadPassword = 3 };
+    /** Which keys a pad offers. The numbers of the pads for numbers and texts are fixed. */
+    enum KeyPadType { KeyPadNumber = 3, KeyPadAddress = 4, KeyPadText = 5, KeyPadPassword = 6 };
 
     /**
      * Runs a pad.

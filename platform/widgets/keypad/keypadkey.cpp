@@ -48,14 +48,9 @@ QPainterPath signOf(CKeyPadKey::Action action)
         path.lineTo(4, 0);
         path.lineTo(-4, 8);
         break;
-    case CKeyPadKey::ClearText:
-        path.moveTo(-7, -7);
-        path.lineTo(7, 7);
-        path.moveTo(7, -7);
-        path.lineTo(-7, 7);
-        break;
     case CKeyPadKey::TypeCharacter:
     case CKeyPadKey::ChangePage:
+    case CKeyPadKey::ClearText:
         break;
     }
     return path;

@@ -46,6 +46,16 @@ void CParmComboBox::setCurrentIndex(int index)
     emit currentIndexChanged(wanted);
 }
 
+void CParmComboBox::setShownText(const QString& text)
+{
+    const QPointer<CParmComboBox> self(this); // whoever hears of the index may take the box away
+    setCurrentIndex(-1);
+    if (!self)
+        return;
+    m_shown = text;
+    valueChanged();
+}
+
 QString CParmComboBox::longestValue() const
 {
     const auto longest = std::max_element(m_items.begin(), m_items.end(),

@@ -33,6 +33,8 @@ public:
     /** Shows item `index`; emits currentIndexChanged() if that changes something. Any other index shows
      * nothing. */
     void setCurrentIndex(int index);
+    /** Shows a text that is none of the items, until an index is set. */
+    void setShownText(const QString& text);
 
 signals:
     /** The user chose an item, also the one already shown. */

@@ -14,6 +14,7 @@ constexpr int FieldInset = 6;
 constexpr int FieldRadius = 5;
 constexpr int SignWidth = 36;
 constexpr int SideBySide = 2; // caption and value have half the width each
+constexpr int AloneInset = 2; // above and below a value that has no caption
 
 int rowRadius()
 {
@@ -41,7 +42,7 @@ QSize CParmField::sizeHint() const
     const QFontMetrics metrics(textFont(CWidgetStyle::FontText));
     const int captionWidth = 2 * Padding + metrics.horizontalAdvance(m_caption);
     const int valueWidth = 2 * Padding + metrics.horizontalAdvance(longestValue()) + SignWidth;
-    return QSize(SideBySide * std::max(captionWidth, valueWidth),
+    return QSize(m_caption.isEmpty() ? valueWidth : SideBySide * std::max(captionWidth, valueWidth),
         CWidgetStyle::getMetric(CWidgetStyle::MetricFieldHeight));
 }
 
@@ -53,6 +54,8 @@ void CParmField::valueChanged()
 
 QRect CParmField::valueRect() const
 {
+    if (m_caption.isEmpty())
+        return rect().adjusted(0, AloneInset, 0, -AloneInset);
     return rect().adjusted(width() / SideBySide, FieldInset, -FieldInset, -FieldInset);
 }
 
@@ -64,8 +67,10 @@ void CParmField::paintEvent(QPaintEvent*)
     const int row = !isEnabled() ? CWidgetStyle::ColorDisabled
         : pressed                ? CWidgetStyle::ColorPressed
                                  : CWidgetStyle::ColorToolBox;
-    CStylePainter::paintPlate(painter, rect(), rowRadius(), color(row));
     const QRect field = valueRect();
+    const bool isAlone = m_caption.isEmpty();
+    if (!isAlone || !isEnabled())
+        CStylePainter::paintPlate(painter, isAlone ? field : rect(), rowRadius(), color(row));
     if (isEnabled())
         CStylePainter::paintPlate(painter, field, FieldRadius, color(CWidgetStyle::ColorField),
             color(pressed ? CWidgetStyle::ColorAccent : CWidgetStyle::ColorTextMuted), 1);

@@ -4,7 +4,8 @@
 
 /**
  * Base of the named parameters: caption on the left, the value in a field on the right, and a sign that says
- * what a touch does. Fields of one width stand in line below each other.
+ * what a touch does. Fields of one width stand in line below each other. Without a caption the value takes
+ * the whole width, for a field that another control beside it names.
  */
 class CParmField : public CPushButton
 {
@@ -27,7 +28,7 @@ protected:
     virtual void paintSign(QPainter& painter, const QRect& area) const = 0;
     /** To be called when shownValue() has changed. */
     void valueChanged();
-    /** Where the value stands, in own coordinates: the right half. */
+    /** Where the value stands, in own coordinates: the right half, or all of it without a caption. */
     QRect valueRect() const;
 
     void paintEvent(QPaintEvent* event) override;

@@ -64,10 +64,14 @@ void CParmLineEdit::edit()
     // The pad goes with this field, also while it is up.
     const QPointer<CKeyPadDialog> pad = new CKeyPadDialog(
         caption(), m_text, hidden && isText ? CKeyPadFactory::KeyPadPassword : m_keyPad, this);
-    pad->setMaxLength(m_maxLength);
+    if (m_maxBytes > 0)
+        pad->setMaxBytes(m_maxBytes);
+    else
+        pad->setMaxLength(m_maxLength);
     pad->setPasswordShown(!hidden);
     if (hasRange()) {
         const int min = m_min, max = m_max;
+        pad->setHint(tr("%1 to %2", "limits of a number").arg(min).arg(max));
         pad->setAllowedCharacters(QLatin1String(min < 0 ? "-0123456789" : "0123456789"));
         pad->setCheck([min, max](const QString& text) {
             bool isNumber = false;

@@ -23,12 +23,14 @@ public:
     /** Kind of soft key pad. */
     void setSKPType(CKeyPadFactory::KeyPadType type) { m_keyPad = type; }
     /**
-     * Whole numbers only, within these limits; another one is refused with a message that names the limits,
-     * and the pad stays open. A maximum below the minimum takes the limits away.
+     * Whole numbers only, within these limits, which the pad shows; another one is refused with a message
+     * that names the limits, and the pad stays open. A maximum below the minimum takes the limits away.
      */
     void setRange(int min, int max);
     /** Most characters that can be typed, 0 for no limit. */
     void setMaxLength(int characters) { m_maxLength = characters; }
+    /** Most bytes that can be typed, counted in UTF-8 as they are stored, 0 for no limit. */
+    void setMaxBytes(int bytes) { m_maxBytes = bytes; }
     /** Another mode than QLineEdit::Normal shows dots; the pad then hides the text too until asked to show
      * it. */
     void setEchoMode(QLineEdit::EchoMode mode);
@@ -49,6 +51,7 @@ private:
     CKeyPadFactory::KeyPadType m_keyPad = CKeyPadFactory::KeyPadText;
     QLineEdit::EchoMode m_echo = QLineEdit::Normal;
     int m_maxLength = 0;
+    int m_maxBytes = 0;
     int m_min = 0;
     int m_max = -1;
 };

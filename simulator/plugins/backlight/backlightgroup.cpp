@@ -7,6 +7,8 @@
 #include "widgets/pushbutton/pushbutton.h"
 #include "widgets/widgetstyle/widgetstyle.h"
 
+#include <QMouseEvent>
+
 #include <algorithm>
 
 namespace {
@@ -92,8 +94,7 @@ void CBacklightGroup::translate()
 {
     CWidget::translate();
     m_title->setText(tr(m_source.title));
-    m_enabled->setText(tr("Switch off the backlight"));
-    m_time->setCaption(tr("After", "that time the backlight goes off"));
+    m_enabled->setText(tr("Switch off the backlight after", "a time that stands beside it"));
     m_brightnessName->setText(tr("Brightness"));
     m_times.clear(); // the items are texts too
     showTime();
@@ -102,14 +103,45 @@ void CBacklightGroup::translate()
 
 void CBacklightGroup::placeControls()
 {
-    m_title->setGeometry(16, 8, 576, 36);
-    m_enabled->setGeometry(16, 50, 282, 52);
-    m_time->setGeometry(310, 50, 282, 52);
-    m_brightnessName->setGeometry(24, 116, 196, 52);
-    m_brightnessValue->setGeometry(226, 116, 72, 52);
-    m_darker->setGeometry(310, 116, 56, 52);
-    m_brightness->setGeometry(376, 130, 150, 24);
-    m_brighter->setGeometry(536, 116, 56, 52);
+    // Captions and values stand where those of the settings page do.
+    m_title->setGeometry(12, 8, 578, 36);
+    m_enabled->setGeometry(12, 50, 280, 52);
+    m_time->setGeometry(304, 50, 298, 52);
+    m_brightnessName->setGeometry(12, 116, 208, 52);
+    m_brightnessValue->setGeometry(220, 116, 72, 52);
+    m_darker->setGeometry(304, 116, 56, 52);
+    m_brightness->setGeometry(370, 130, 166, 24);
+    m_brightness->setAttribute(Qt::WA_TransparentForMouseEvents); // a touch above or below it counts too
+    m_brighter->setGeometry(546, 116, 56, 52);
+}
+
+QRect CBacklightGroup::levelArea() const
+{
+    return QRect(m_darker->geometry().right() + 1, m_darker->y(),
+        m_brighter->x() - m_darker->geometry().right() - 1, m_darker->height());
+}
+
+void CBacklightGroup::mousePressEvent(QMouseEvent* event)
+{
+    m_isLevelHeld = levelArea().contains(event->pos());
+    if (m_isLevelHeld)
+        setLevelAt(event->x());
+    else
+        CWidget::mousePressEvent(event);
+}
+
+void CBacklightGroup::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_isLevelHeld)
+        setLevelAt(event->x());
+}
+
+void CBacklightGroup::setLevelAt(int x)
+{
+    const QRect bar = m_brightness->geometry();
+    const double part = qBound(0.0, double(x - bar.left()) / (bar.width() - 1), 1.0);
+    const int level = qRound(part * BrightnessMax / BrightnessStep) * BrightnessStep;
+    write(m_source.brightness, level);
 }
 
 void CBacklightGroup::write(CSystemSettings::SystemAttribute attribute, const QVariant& value)
@@ -149,7 +181,9 @@ void CBacklightGroup::follow(CSystemSettings::SystemAttribute attribute)
 
 void CBacklightGroup::showEnabled()
 {
-    m_enabled->setChecked(store()->getAttribute(m_source.enabled).toBool());
+    const bool isEnabled = store()->getAttribute(m_source.enabled).toBool();
+    m_enabled->setChecked(isEnabled);
+    m_time->setEnabled(isEnabled); // without it the time says nothing
 }
 
 void CBacklightGroup::showTime()

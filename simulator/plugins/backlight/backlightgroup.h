@@ -38,7 +38,14 @@ public:
 public slots:
     void translate() override;
 
+protected:
+    /** A touch on the level bar, and moving on from there, sets the brightness in whole steps. */
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
 private:
+    QRect levelArea() const;
+    void setLevelAt(int x);
     void placeControls();
     void write(CSystemSettings::SystemAttribute attribute, const QVariant& value);
     void stepBrightness(int direction);
@@ -57,4 +64,5 @@ private:
     CPushButton* m_darker;
     CProgressBar* m_brightness;
     CPushButton* m_brighter;
+    bool m_isLevelHeld = false;
 };
