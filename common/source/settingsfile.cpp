@@ -111,8 +111,8 @@ QString store(const QString& name, const QVariantMap& values)
     const qint64 size = isOpen ? stored.size() : 0;
     const QByteArray before = isOpen ? stored.readAll() : QByteArray();
     stored.close();
-    // A pipe or directory holds nothing of anybody's, and what is too large is none of ours; a file that cannot
-    // be read, or not whole, may be.
+    // A pipe or directory holds nothing of anybody's, and what is too large is none of ours; a file that
+    // cannot be read, or not whole, may be.
     const QFileInfo there(name);
     if (before.size() < size || (!isOpen && there.isFile() && there.size() <= MaxFileSize))
         return QStringLiteral("What the file holds can not be read.");

@@ -5,8 +5,8 @@
 
 // The block of global settings that the instrument's processes share (System V shared memory, made by another
 // process): 1024 bytes, native little-endian. The shell writes single fields and never initialises the block.
-// The simulator's platform keeps a table of offsets of its own on purpose: it stands for the other processes, and
-// a slip here shows against it.
+// The simulator's platform keeps a table of offsets of its own on purpose: it stands for the other processes,
+// and a slip here shows against it.
 
 /** Where the block is found: ftok() of this file and number. */
 constexpr char GlobalSettingKeyFile[] = "/usr/local/arvo/share/res/keys/global";

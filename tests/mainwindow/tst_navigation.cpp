@@ -6,8 +6,8 @@
 #include "storagemonitor.h"
 #include "widgets/keypad/keypaddialog.h"
 #include "widgets/messagebox/messagebox.h"
-#include "widgets/widgetstyle/widgetstyle.h"
 #include "widgets/tabwidget/tabwidget.h"
+#include "widgets/widgetstyle/widgetstyle.h"
 
 #include <QSet>
 

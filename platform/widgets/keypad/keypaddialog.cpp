@@ -2,8 +2,8 @@
 
 #include "widgets/checkbox/checkbox.h"
 #include "widgets/keypad/keypadlayout.h"
-#include "widgets/keywatch/keywatch.h"
 #include "widgets/keypad/padvalidator.h"
+#include "widgets/keywatch/keywatch.h"
 #include "widgets/label/label.h"
 #include "widgets/messagebox/messagebox.h"
 #include "widgets/touchregion/touchregion.h"
