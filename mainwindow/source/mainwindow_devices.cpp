@@ -22,6 +22,7 @@
 
 namespace {
 
+constexpr int LONGEST_FAILURE = 200; // characters of its text
 constexpr const char FAILURE_INDICATOR[] = "/tmp/.sysfail_indicator";
 
 } // namespace
@@ -151,6 +152,9 @@ void CMainWindow::reportFailure()
     QString failure;
     FailureServ.QueryLatestSysFailure(failure);
     standardstreams::write(STDOUT_FILENO, QByteArrayLiteral("error = ") + failure.toUtf8() + '\n');
+    // Whatever the service says, what to do about it stays in sight.
+    if (failure.size() > LONGEST_FAILURE)
+        failure = failure.left(LONGEST_FAILURE) + QStringLiteral("...");
     if (execShellBox(ShellBox::SystemFailure, *this, tr("System Error"),
             tr("Error Code: %1").arg(failure) + tr("Please contact customer service!"))) {
         QFile::remove(indicator);
