@@ -17,7 +17,7 @@
 namespace {
 
 const QColor MarkerLine(12, 16, 34);
-constexpr qint64 LargestPicture = 1024 * 1024; // bytes
+constexpr qint64 LargestPicture = qint64(1024) * 1024; // bytes
 
 /** Saves the painter for one call. */
 class CPainterState
