@@ -499,6 +499,7 @@ void tst_SystemSettings::otherThreads()
     {
         Settings settings;
         std::vector<std::thread> threads;
+        threads.reserve(4);
         for (int index = 0; index < 4; ++index) {
             threads.emplace_back([&settings, attribute, index] {
                 for (int value = 0; value <= Last; ++value)
