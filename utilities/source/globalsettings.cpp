@@ -6,6 +6,7 @@
 #include "mainframe2app.h"
 #include "orloclock.h"
 #include "services/boardutils.h"
+#include "standardstreams.h"
 #include "widgets/parmcombobox/parmcombobox.h"
 #include "widgets/parmlineedit/parmlineedit.h"
 #include "widgets/tabwidget/tabwidget.h"
@@ -15,9 +16,15 @@
 #include <QFile>
 
 #include <algorithm>
-#include <cstdio>
+#include <unistd.h>
 
 namespace {
+
+/** A diagnostic on standard output, which never waits for its reader. */
+template <typename... Values> void say(const char* format, Values... values)
+{
+    standardstreams::write(STDOUT_FILENO, QString::asprintf(format, values...).toUtf8());
+}
 
 constexpr int MARGIN_X = 16; // the grid that the pages share
 constexpr int MARGIN_Y = 13;
@@ -270,8 +277,7 @@ void CGlobalSettings::changeStorageSetting2App()
     msg.profileSaving = m_pComboProfileSave->currentIndex();
     msg.rsultSaving = m_pComboResultSave->currentIndex();
     msg.advanceSaving = m_pComboAdvanceSave->currentIndex() == 0 ? 1 : 0;
-    std::printf(
-        "\n\n\n changeStorageSetting2App,msgPref=%s, fnamePrefix=%s, profileDel=%d, profileSaving=%d, "
+    say("\n\n\n changeStorageSetting2App,msgPref=%s, fnamePrefix=%s, profileDel=%d, profileSaving=%d, "
         "rsultSaving=%d, advanceSaving=%d. \n\n\n",
         msg.msgPref, msg.fnamePrefix, msg.profileDel, msg.profileSaving, msg.rsultSaving, msg.advanceSaving);
     CUICommUtils::saveStorageSetting(msg); // says itself what went wrong
@@ -289,11 +295,11 @@ void CGlobalSettings::setSaveScreenState(bool save)
 
 bool CGlobalSettings::setInternal1ppsSource(Internal1ppsSource source)
 {
-    std::printf("set 1pps source %d \n", source);
+    say("set 1pps source %d \n", source);
     stOrlo_ClockSrc_cmd cmd = commandForAll(clockCode(source));
     setOrloclock(&cmd);
     m_prevIndex = source;
-    std::printf("prevIndex %d\n", m_prevIndex);
+    say("prevIndex %d\n", m_prevIndex);
     return true;
 }
 

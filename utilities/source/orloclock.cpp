@@ -2,9 +2,9 @@
 
 #include "detachedcommand.h"
 #include "services/boardutils.h"
+#include "standardstreams.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <iterator>
 #include <sys/wait.h>
@@ -116,5 +116,5 @@ int orlo_modconf_clocksrc(int, const stOrlo_ClockSrc_cmd* cmd, stOrlo_ClockSrc_r
 void setOrloclock(stOrlo_ClockSrc_cmd* cmd)
 {
     CDetachedCommand::runApart(&setApart, cmd); // what is missing is told there, and the user goes on
-    std::printf("father thread ");
+    standardstreams::write(STDOUT_FILENO, QByteArrayLiteral("father thread "));
 }
