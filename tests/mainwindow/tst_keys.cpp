@@ -8,6 +8,7 @@
 #include "widgets/parmcombobox/parmcombobox.h"
 #include "widgets/parmcombobox/parmlist.h"
 #include "widgets/parmlineedit/parmlineedit.h"
+#include "windowfocus.h"
 #include "withdialog.h"
 #include "xscreen.h"
 
@@ -71,8 +72,7 @@ private:
      */
     void takeKeyboard()
     {
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(takeFocus(m_window.get()));
         QTRY_VERIFY(!m_sinceKey.isValid() || m_sinceKey.elapsed() >= KEY_PAUSE);
     }
 
@@ -92,8 +92,7 @@ private:
                 if (pad)
                     pad->reject(); // or a fault would keep the test in it
             });
-            pad->activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(pad));
+            QVERIFY(takeFocus(pad));
             tap(XK_Home);
             QTRY_VERIFY(!pad || !pad->isVisible());
         });
@@ -183,8 +182,7 @@ void TestKeys::heldEnterOpensThePadOnly()
     auto held = std::make_unique<CHeldKey>(m_screen, XK_Return);
     CWithDialog withPad([&](CDialog* pad) {
         const auto closed = qScopeGuard([pad] { pad->reject(); });
-        pad->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(pad));
+        QVERIFY(takeFocus(pad));
         const int before = busy.unflaggedRepetitions();
         QTRY_VERIFY(busy.unflaggedRepetitions() >= before + 5);
         for (const auto* button : pad->findChildren<CPushButton*>())
@@ -257,8 +255,7 @@ void TestKeys::aDialogHearsF3NotHome()
     outer.show();
     CDialog& inner = inPad ? pad : box;
     inner.show();
-    inner.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&inner));
+    QVERIFY(takeFocus(&inner));
     tap(XK_Home);
     tap(XK_F3); // forwarded at both dialogs, and passed on by one to the other
     QTRY_COMPARE(s_keysSeen, 1);

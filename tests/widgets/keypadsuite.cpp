@@ -1,4 +1,5 @@
 #include "suites.h"
+#include "windowfocus.h"
 
 #include "widgets/checkbox/checkbox.h"
 #include "widgets/keypad/keypaddialog.h"
@@ -43,8 +44,7 @@ QLineEdit* textOf(const QWidget& pad)
 void show(CKeyPadDialog& pad)
 {
     pad.show();
-    pad.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&pad));
+    QVERIFY(takeFocus(&pad));
     QTRY_VERIFY(textOf(pad)->hasFocus());
 }
 
